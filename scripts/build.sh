@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# Configures and builds the project in build/ (or the folder given as $KO_BUILD_DIR), after the
+# set-up script has installed what is missing. Extra arguments go to CMake's configure step.
+set -euo pipefail
+repo=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+"$repo/scripts/setup.sh"
+
+build=${KO_BUILD_DIR:-$repo/build}
+flags=()
+# CI and developers who ask for it get warnings as errors.
+if [ -n "${CI:-}" ] || [ -n "${KO_DEVELOPER_MODE:-}" ]; then flags+=(-DKO_QTTOOLKIT_DEVELOPER_MODE=ON); fi
+cmake -S "$repo" -B "$build" -G Ninja "${flags[@]}" "$@" >/dev/null
+cmake --build "$build" --parallel "$(nproc)"

@@ -1,0 +1,68 @@
+#!/usr/bin/env bash
+# Installs everything the library, its tests, benchmarks and gallery need on Debian 12,
+# and stages the Qt Charts private headers of the installed Qt Charts version.
+# Idempotent and non-interactive: a second run only checks and returns.
+set -euo pipefail
+
+repo=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+cache="$repo/.cache"
+export DEBIAN_FRONTEND=noninteractive
+
+if [ "$(id -u)" -eq 0 ]; then sudo=(); else sudo=(sudo -n); fi
+
+packages=(
+  g++ cmake ninja-build pkg-config dpkg-dev
+  qtbase5-dev qtbase5-private-dev libqt5charts5-dev libqt5svg5-dev
+  libbenchmark-dev fonts-dejavu-core xvfb xauth
+  # benchmark-only peers; the build works without them
+  libqcustomplot-dev libqwt-qt5-dev
+)
+
+missing=()
+for p in "${packages[@]}"; do
+  dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")
+done
+
+apt_updated=
+apt_update() {
+  [ -n "$apt_updated" ] && return
+  "${sudo[@]}" apt-get update -qq
+  apt_updated=1
+}
+
+if [ ${#missing[@]} -gt 0 ]; then
+  echo "setup: installing ${missing[*]}"
+  apt_update
+  "${sudo[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+fi
+
+# Qt Charts ships no private headers in Debian: take them from the source package of exactly
+# the installed version and lay them out as an official Qt install does.
+charts_version=$(dpkg-query -W -f='${Version}' libqt5charts5-dev)   # e.g. 5.15.8-2
+qt_version=${charts_version%%-*}; qt_version=${qt_version#*:}       # e.g. 5.15.8
+staged="$cache/qt-private/QtCharts/$qt_version/QtCharts/private"
+stamp="$cache/qt-private/.staged-$charts_version"
+
+if [ ! -f "$stamp" ]; then
+  if ! grep -rqsE '^(Types:.*deb-src|deb-src )' /etc/apt/sources.list /etc/apt/sources.list.d/; then
+    echo "setup: adding a deb-src entry for Debian's source packages"
+    "${sudo[@]}" tee /etc/apt/sources.list.d/ko-qttoolkit-deb-src.sources >/dev/null <<SRC
+Types: deb-src
+URIs: http://deb.debian.org/debian
+Suites: bookworm bookworm-updates
+Components: main
+Signed-By: /usr/share/keyrings/debian-archive-keyring.gpg
+SRC
+    apt_updated=
+  fi
+  apt_update
+  src="$cache/qtcharts-src"
+  rm -rf "$src"; mkdir -p "$src"
+  echo "setup: fetching the Qt Charts $charts_version sources"
+  (cd "$src" && apt-get source -qq "qtcharts-opensource-src=$charts_version" >/dev/null)
+  tree=$(find "$src" -maxdepth 1 -mindepth 1 -type d | head -n 1)
+  rm -rf "$cache/qt-private"; mkdir -p "$staged"
+  find "$tree/src/charts" -name '*_p.h' -exec cp {} "$staged/" \;
+  touch "$stamp"
+  rm -rf "$src"
+fi

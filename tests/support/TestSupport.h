@@ -1,0 +1,45 @@
+#ifndef KO_QTTOOLKIT_TESTSUPPORT_H
+#define KO_QTTOOLKIT_TESTSUPPORT_H
+
+#include <QApplication>
+#include <QColor>
+#include <QDir>
+#include <QFont>
+#include <QImage>
+#include <QString>
+
+namespace ko::qtToolkit::test {
+
+/// The font the set-up script installs: text metrics in tests must not depend on what else a
+/// machine has.
+inline QFont fixedFont(int pixelSize = 12)
+{
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(pixelSize);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+/// Makes fixedFont() the application font; call in initTestCase().
+inline void useFixedFont(int pixelSize = 12)
+{
+    QApplication::setFont(fixedFont(pixelSize));
+}
+
+/// Where tests keep rendered images for a person to look at.
+inline QString artifactPath(const QString &fileName)
+{
+    const QString dir = QStringLiteral(KO_TEST_ARTIFACT_DIR);
+    QDir().mkpath(dir);
+    return dir + QLatin1Char('/') + fileName;
+}
+
+/// Colour of a pixel without its alpha.
+inline QColor rgbAt(const QImage &image, int x, int y)
+{
+    return QColor(image.pixelColor(x, y).rgb());
+}
+
+} // namespace ko::qtToolkit::test
+
+#endif
