@@ -26,6 +26,12 @@ QString expectedElision(const QLabel &label, const QString &text, Qt::TextElideM
     return QFontMetrics(label.font()).elidedText(text, mode, label.width() - 4, Qt::TextShowMnemonic);
 }
 
+// How a plain QLabel of the same size shows the elided \a text.
+QImage elidedLabelImage(const QLabel &label, const QString &text, Qt::TextElideMode mode)
+{
+    return plainLabelImage(expectedElision(label, text, mode), label.size());
+}
+
 // The smallest width the label keeps: its first character and the three characters U+00E2,
 // U+0080, U+00A6, plus one pixel.
 int expectedMinimumWidth(const QLabel &label, const QString &text)
@@ -177,18 +183,18 @@ private Q_SLOTS:
     {
         ElidedLabel label(longText);
         label.resize(90, 20);
-        QCOMPARE(label.grab().toImage(), plainLabelImage(expectedElision(label, longText, Qt::ElideRight), label.size()));
+        QCOMPARE(label.grab().toImage(), elidedLabelImage(label, longText, Qt::ElideRight));
 
         label.setElideMode(Qt::ElideLeft);
         QCOMPARE(label.elideMode(), Qt::ElideLeft);
-        QCOMPARE(label.grab().toImage(), plainLabelImage(expectedElision(label, longText, Qt::ElideLeft), label.size()));
+        QCOMPARE(label.grab().toImage(), elidedLabelImage(label, longText, Qt::ElideLeft));
 
         label.resize(130, 20);
-        QCOMPARE(label.grab().toImage(), plainLabelImage(expectedElision(label, longText, Qt::ElideLeft), label.size()));
+        QCOMPARE(label.grab().toImage(), elidedLabelImage(label, longText, Qt::ElideLeft));
 
         const QString other = QStringLiteral("Talkback microphone level");
         label.setText(other);
-        QCOMPARE(label.grab().toImage(), plainLabelImage(expectedElision(label, other, Qt::ElideLeft), label.size()));
+        QCOMPARE(label.grab().toImage(), elidedLabelImage(label, other, Qt::ElideLeft));
         QCOMPARE(label.text(), other);
 
         label.resize(400, 20);
