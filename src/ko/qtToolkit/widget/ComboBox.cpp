@@ -1,6 +1,7 @@
 #include <ko/qtToolkit/widget/ComboBox.h>
 
 #include <QEvent>
+#include <QFont>
 #include <QLinearGradient>
 #include <QListView>
 #include <QMouseEvent>
@@ -41,7 +42,7 @@ public:
 
     QVariant data(const QModelIndex &index, int role) const override
     {
-        QVariant value = QStandardItemModel::data(index, role);
+        const QVariant value = QStandardItemModel::data(index, role);
         if (role != Qt::FontRole || index.row() != m_comboBox->currentIndex())
             return value;
         auto font = qvariant_cast<QFont>(value);
@@ -55,12 +56,14 @@ private:
 
 namespace {
 
+constexpr int bandHeight = 20;
+
 // The bundle has no such icons, so both pixmaps are null and only the bands show. Loading
 // them anyway lets an application that registers icons of these names get arrows.
 QPixmap bandArrow(const QString &fileName)
 {
     const QPixmap pixmap(fileName);
-    return pixmap.isNull() ? pixmap : pixmap.scaledToHeight(20, Qt::SmoothTransformation);
+    return pixmap.isNull() ? pixmap : pixmap.scaledToHeight(bandHeight, Qt::SmoothTransformation);
 }
 
 const QPixmap &upArrow()
@@ -74,8 +77,6 @@ const QPixmap &downArrow()
     static const QPixmap pixmap = bandArrow(QStringLiteral(":/ic_arrow_down_gray_24px.svg"));
     return pixmap;
 }
-
-constexpr int bandHeight = 20;
 
 void paintBand(QPainter &painter, const QRect &band, QPointF opaqueEdge, QPointF transparentEdge,
                const QColor &color, const QPixmap &arrow)
