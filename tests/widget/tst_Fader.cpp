@@ -1,18 +1,19 @@
 #include <ko/qtToolkit/widget/Fader.h>
 
+#include <DragSupport.h>
 #include <TestSupport.h>
 
 #include <QFile>
 #include <QMouseEvent>
 #include <QSignalSpy>
-#include <QStyle>
-#include <QStyleOptionSlider>
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 #include <QWindow>
 #include <qpa/qwindowsysteminterface.h>
 
+using ko::qtToolkit::test::moveHeld;
+using ko::qtToolkit::test::sliderHandleRect;
 using ko::qtToolkit::widget::Fader;
 
 Q_DECLARE_METATYPE(Qt::MouseButton)
@@ -53,27 +54,6 @@ protected:
         return QObject::eventFilter(watched, event);
     }
 };
-
-// The handle rectangle as the slider's style reports it.
-QRect handleRect(const QSlider &slider)
-{
-    struct Access : QSlider
-    {
-        using QSlider::initStyleOption;
-    };
-    QStyleOptionSlider option;
-    (slider.*(&Access::initStyleOption))(&option);
-    return slider.style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, &slider);
-}
-
-// A move with the left button held, as a dragging finger sends it (QTest::mouseMove sends no
-// buttons).
-void moveHeld(QWidget *widget, const QPoint &position)
-{
-    QMouseEvent event(QEvent::MouseMove, position, widget->mapToGlobal(position), Qt::NoButton, Qt::LeftButton,
-                      Qt::NoModifier);
-    QApplication::sendEvent(widget, &event);
-}
 
 void sendPress(QWidget *widget, QEvent::Type type, const QPointF &position, Qt::MouseButton button)
 {
@@ -179,7 +159,7 @@ void tst_Fader::pressOnHandleGrabs()
     QSignalSpy sliding(scene.fader, &Fader::slidingChanged);
     QSignalSpy values(scene.fader, &QSlider::valueChanged);
 
-    QTest::mousePress(scene.fader, Qt::LeftButton, {}, handleRect(*scene.fader).center());
+    QTest::mousePress(scene.fader, Qt::LeftButton, {}, sliderHandleRect(*scene.fader).center());
     QVERIFY(scene.fader->isSliding());
     QCOMPARE(scene.fader->property("isSliding"), QVariant(true));
     QCOMPARE(sliding.count(), 1);
@@ -190,7 +170,7 @@ void tst_Fader::pressOnHandleGrabs()
     // QSlider never saw the press.
     QVERIFY(!scene.fader->isSliderDown());
 
-    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, handleRect(*scene.fader).center());
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, sliderHandleRect(*scene.fader).center());
     QVERIFY(!scene.fader->isSliding());
     QCOMPARE(sliding.count(), 2);
     QCOMPARE(sliding.at(1).at(0).toBool(), false);
@@ -219,7 +199,7 @@ void tst_Fader::pressOutsideHandleReachesParent()
 
     Scene scene(orientation);
     QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
-    const QRect handle = handleRect(*scene.fader);
+    const QRect handle = sliderHandleRect(*scene.fader);
     QPoint point = handle.center();
     if (where == QLatin1String("before"))
         point.setY(handle.top() - 20);
@@ -272,7 +252,7 @@ void tst_Fader::handleEdgesCount()
 
     Scene scene(Qt::Vertical);
     QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
-    const QRect handle = handleRect(*scene.fader);
+    const QRect handle = sliderHandleRect(*scene.fader);
     const QPointF point = QPointF(corner == QLatin1String("topLeft") ? handle.topLeft() : handle.bottomRight()) + offset;
 
     sendPress(scene.fader, QEvent::MouseButtonPress, point, Qt::LeftButton);
@@ -285,7 +265,7 @@ void tst_Fader::doubleClickOnHandleGrabs()
 {
     Scene scene(Qt::Vertical);
     QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
-    const QPoint center = handleRect(*scene.fader).center();
+    const QPoint center = sliderHandleRect(*scene.fader).center();
     QSignalSpy sliding(scene.fader, &Fader::slidingChanged);
 
     sendPress(scene.fader, QEvent::MouseButtonDblClick, center, Qt::LeftButton);
@@ -297,7 +277,7 @@ void tst_Fader::doubleClickOnHandleGrabs()
     QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, center + QPoint(0, -40));
 
     // A double click beside the handle goes to the parent like a press.
-    const QPoint groove(center.x(), handleRect(*scene.fader).bottom() + 30);
+    const QPoint groove(center.x(), sliderHandleRect(*scene.fader).bottom() + 30);
     sendPress(scene.fader, QEvent::MouseButtonDblClick, groove, Qt::LeftButton);
     QVERIFY(!scene.fader->isSliding());
     QCOMPARE(scene.parent.presses.size(), 1);
@@ -377,7 +357,7 @@ void tst_Fader::dragPath()
     Scene scene(orientation, minimum, 100, start);
     QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
     QSignalSpy sliding(scene.fader, &Fader::slidingChanged);
-    const QPoint grab = handleRect(*scene.fader).center();
+    const QPoint grab = sliderHandleRect(*scene.fader).center();
 
     QTest::mousePress(scene.fader, Qt::LeftButton, {}, grab);
     QVERIFY(scene.fader->isSliding());
@@ -411,7 +391,7 @@ void tst_Fader::singleStepKeptAfterDrag()
     QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
 
     auto drag = [&](const QPoint &to) {
-        const QPoint grab = handleRect(*scene.fader).center();
+        const QPoint grab = sliderHandleRect(*scene.fader).center();
         QTest::mousePress(scene.fader, Qt::LeftButton, {}, grab);
         moveHeld(scene.fader, grab + to);
         QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, grab + to);
@@ -456,7 +436,7 @@ void tst_Fader::anyButtonReleaseEndsTheGrab()
     Scene scene(Qt::Vertical);
     QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
     QSignalSpy sliding(scene.fader, &Fader::slidingChanged);
-    const QPoint grab = handleRect(*scene.fader).center();
+    const QPoint grab = sliderHandleRect(*scene.fader).center();
 
     QTest::mousePress(scene.fader, Qt::LeftButton, {}, grab);
     moveHeld(scene.fader, grab + QPoint(0, -20));
@@ -490,7 +470,7 @@ void tst_Fader::wheelNeverMovesTheFader()
     Scene scene(Qt::Vertical);
     QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
     QSignalSpy values(scene.fader, &QSlider::valueChanged);
-    const QPoint center = handleRect(*scene.fader).center();
+    const QPoint center = sliderHandleRect(*scene.fader).center();
 
     // A plain slider in the same place would move.
     auto *slider = new QSlider(Qt::Vertical, &scene.parent);
@@ -522,7 +502,7 @@ void tst_Fader::disabledFaderIsInert()
     scene.fader->setEnabled(false);
     QSignalSpy sliding(scene.fader, &Fader::slidingChanged);
     QSignalSpy values(scene.fader, &QSlider::valueChanged);
-    const QPoint grab = handleRect(*scene.fader).center();
+    const QPoint grab = sliderHandleRect(*scene.fader).center();
 
     QTest::mousePress(scene.fader, Qt::LeftButton, {}, grab);
     QVERIFY(!scene.fader->isSliding());
@@ -553,7 +533,7 @@ void tst_Fader::modeChangeRepaintsAtOnce()
     QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
     PaintCounter counter;
     scene.fader->installEventFilter(&counter);
-    const QPoint grab = handleRect(*scene.fader).center();
+    const QPoint grab = sliderHandleRect(*scene.fader).center();
 
     QTest::mousePress(scene.fader, Qt::LeftButton, {}, grab);
     QCoreApplication::processEvents();
@@ -588,14 +568,14 @@ void tst_Fader::modeLookFollowsStyleSheet()
     const QColor fineHandle(0x333333);
     const QColor coarseHandle(0x7a7a7a);
     auto handleColor = [&] {
-        const QRect handle = handleRect(*fader);
+        const QRect handle = sliderHandleRect(*fader);
         return ko::qtToolkit::test::rgbAt(fader->grab().toImage(), handle.center().x(), handle.center().y());
     };
     const QColor idle = handleColor();
     QVERIFY(idle != fineHandle);
     QVERIFY(idle != coarseHandle);
 
-    QPoint grab = handleRect(*fader).center();
+    QPoint grab = sliderHandleRect(*fader).center();
     QTest::mousePress(fader, Qt::LeftButton, {}, grab);
     QCOMPARE(handleColor(), idle);
     moveHeld(fader, grab + QPoint(0, -12));
@@ -606,7 +586,7 @@ void tst_Fader::modeLookFollowsStyleSheet()
     QTest::mouseRelease(fader, Qt::LeftButton, {}, grab + QPoint(0, -40));
     QCOMPARE(handleColor(), idle);
 
-    grab = handleRect(*fader).center();
+    grab = sliderHandleRect(*fader).center();
     QTest::mousePress(fader, Qt::LeftButton, {}, grab);
     moveHeld(fader, grab + QPoint(12, 0));
     QCOMPARE(handleColor(), coarseHandle);
