@@ -138,6 +138,9 @@ private Q_SLOTS:
     void disabledIsWashedOutWithGreyFrame();
     void horizontalGradientIsMirrored();
     void colourSetters();
+    void translucentColoursAreLayered();
+    void tinyMeters_data();
+    void tinyMeters();
     void gradientFollowsResizeAndThresholdsNotRange();
 };
 
@@ -622,6 +625,70 @@ void tst_LevelMeter::colourSetters()
     meter.setLevel(-60.0f);
     image = paint(meter, QStringLiteral("colours-background"));
     QCOMPARE(at(image, 10, 100), newBackground);
+}
+
+void tst_LevelMeter::translucentColoursAreLayered()
+{
+    LevelMeter meter;
+    makeVertical(meter);
+    meter.setLevel(-20.0f);
+
+    // The unlit part is the background colour laid over the gradient.
+    meter.setBackgroundColor(QColor(0, 0, 0, 128));
+    QImage image = paint(meter, QStringLiteral("translucent-background"));
+    QVERIFY2(near(at(image, 10, 5), QColor(high.red() * 127 / 255, high.green() * 127 / 255, high.blue() * 127 / 255)),
+             qPrintable(describe(at(image, 10, 5))));
+    QVERIFY2(near(at(image, 10, 50), QColor(medium.red() * 127 / 255, medium.green() * 127 / 255,
+                                            medium.blue() * 127 / 255)),
+             qPrintable(describe(at(image, 10, 50))));
+    QCOMPARE(at(image, 10, 150), low);
+    QCOMPARE(at(image, 0, 50), frame);
+    QCOMPARE(at(image, 10, 0), frame);
+
+    // The gradient is laid over what is behind the meter (black here), inside the frame.
+    meter.setBackgroundColor(background);
+    meter.setLowColor(QColor(0, 255, 0, 128));
+    image = paint(meter, QStringLiteral("translucent-low"));
+    QVERIFY2(near(at(image, 10, 150), QColor(0, 128, 0)), qPrintable(describe(at(image, 10, 150))));
+    QCOMPARE(at(image, 10, 50), background);
+    QCOMPARE(at(image, 0, 150), frame);
+    QCOMPARE(at(image, 19, 150), frame);
+    QCOMPARE(at(image, 10, 199), frame);
+}
+
+void tst_LevelMeter::tinyMeters_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("muted");
+
+    QTest::newRow("one pixel") << QSize(1, 1) << false;
+    QTest::newRow("two by two") << QSize(2, 2) << false;
+    QTest::newRow("one row") << QSize(20, 1) << false;
+    QTest::newRow("three by three muted") << QSize(3, 3) << true;
+    QTest::newRow("two wide muted") << QSize(2, 50) << true;
+}
+
+void tst_LevelMeter::tinyMeters()
+{
+    QFETCH(QSize, size);
+    QFETCH(bool, muted);
+
+    // Too small for an inside: all frame, and nothing painted beyond the widget.
+    LevelMeter meter;
+    makeVertical(meter, size);
+    QCOMPARE(meter.size(), size);
+    meter.setLevel(0.0f);
+    meter.setMuted(muted);
+    QImage image(size + QSize(4, 4), QImage::Format_RGB32);
+    image.fill(Qt::black);
+    meter.render(&image, QPoint(2, 2), QRegion(), QWidget::DrawChildren);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const bool inside = QRect(QPoint(2, 2), size).contains(x, y);
+            const QColor expected = inside ? (muted ? red : frame) : QColor(Qt::black);
+            QVERIFY2(at(image, x, y) == expected, qPrintable(QStringLiteral("%1,%2 is %3").arg(x).arg(y).arg(describe(at(image, x, y)))));
+        }
+    }
 }
 
 void tst_LevelMeter::gradientFollowsResizeAndThresholdsNotRange()

@@ -10,6 +10,25 @@
 
 namespace ko::qtToolkit::widget {
 
+namespace {
+
+// The one-pixel outline along the edge of \a rect. Filled rather than stroked: a pen costs far
+// more than the few pixels it draws.
+void fillOutline(QPainter &painter, const QRect &rect, const QColor &color)
+{
+    if (rect.isEmpty())
+        return;
+    painter.fillRect(rect.left(), rect.top(), rect.width(), 1, color);
+    if (rect.height() > 1)
+        painter.fillRect(rect.left(), rect.bottom(), rect.width(), 1, color);
+    if (rect.height() > 2) {
+        painter.fillRect(rect.left(), rect.top() + 1, 1, rect.height() - 2, color);
+        painter.fillRect(rect.right(), rect.top() + 1, 1, rect.height() - 2, color);
+    }
+}
+
+} // namespace
+
 LevelMeter::LevelMeter(QWidget *parent)
     : QProgressBar(parent)
 {
@@ -191,28 +210,44 @@ void LevelMeter::updateGradient()
 void LevelMeter::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
-    const int w = width();
-    const int h = height();
-    const QRect inner(1, 1, w - 2, h - 2);
+    const QRect whole = rect();
+    const QRect inner = whole.adjusted(1, 1, -1, -1);
+    const bool washedOut = m_muted || !isEnabled();
+    const QColor &frameColor = m_muted ? m_mutedFrameColor : m_frameColor;
+    // When nothing is translucent, one fill of the whole widget lays the frame and the inside is
+    // painted over it, the gradient only where the bar is lit: the same pixels as gradient,
+    // background and outline drawn one over the other, at a fraction of the cost.
+    const bool opaque = !washedOut && m_gradient.isOpaque() && m_backgroundColor.alpha() == 255;
+    if (opaque)
+        painter.fillRect(whole, frameColor);
     if (!inner.isEmpty()) {
-        painter.fillRect(inner, m_gradient);
-        // The lit length is measured on the whole widget; it is limited here to the inner
-        // rectangle, so that a full bar leaves no unlit row and nothing spills onto the frame.
-        const int lit = mapValueToPixels(value());
+        // The lit length is measured on the whole widget; it is limited to the inner rectangle
+        // here, so that a full bar leaves no unlit row and nothing spills onto the frame.
+        const int pixels = mapValueToPixels(value());
+        QRect lit = inner;
         QRect unlit = inner;
-        if (orientation() == Qt::Vertical)
-            unlit.setHeight(std::clamp(inner.height() - lit, 0, inner.height()));
-        else
-            unlit.setLeft(inner.left() + std::clamp(lit, 0, inner.width()));
+        if (orientation() == Qt::Vertical) {
+            const int litHeight = std::clamp(pixels, 0, inner.height());
+            unlit.setHeight(inner.height() - litHeight);
+            lit.setTop(unlit.bottom() + 1);
+        } else {
+            const int litWidth = std::clamp(pixels, 0, inner.width());
+            lit.setWidth(litWidth);
+            unlit.setLeft(lit.right() + 1);
+        }
+        const QRect &gradientArea = opaque ? lit : inner;
+        if (!gradientArea.isEmpty())
+            painter.fillRect(gradientArea, m_gradient);
         if (!unlit.isEmpty())
             painter.fillRect(unlit, m_backgroundColor);
     }
-    if (m_muted || !isEnabled())
-        painter.fillRect(rect(), QColor(255, 255, 255, 128));
-    painter.setPen(m_muted ? m_mutedFramePen : m_framePen);
-    painter.drawRect(0, 0, w - 1, h - 1);
-    if (m_muted)
-        painter.drawRect(1, 1, w - 3, h - 3);
+    if (washedOut)
+        painter.fillRect(whole, QColor(255, 255, 255, 128));
+    if (!opaque) {
+        fillOutline(painter, whole, frameColor);
+        if (m_muted)
+            fillOutline(painter, inner, frameColor);
+    }
 }
 
 void LevelMeter::resizeEvent(QResizeEvent * /*event*/)

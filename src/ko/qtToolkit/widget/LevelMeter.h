@@ -5,7 +5,6 @@
 
 #include <QBrush>
 #include <QColor>
-#include <QPen>
 #include <QProgressBar>
 
 namespace ko::qtToolkit::widget {
@@ -136,8 +135,8 @@ private:
     QColor m_lowColor{0x008000};
     QColor m_mediumColor{0xfa6500};
     QColor m_highColor{0xc82300};
-    QPen m_framePen{QColor(0x575757)};
-    QPen m_mutedFramePen{QColor(0xff0000)};
+    QColor m_frameColor{0x575757};
+    QColor m_mutedFrameColor{0xff0000};
     float m_level = -60.0f;
     float m_minimumLevel = -60.0f;
     float m_maximumLevel = 15.0f;
