@@ -1,6 +1,6 @@
 #include <ko/qtToolkit/widget/Fader.h>
 
-#include <DragSupport.h>
+#include <WidgetSupport.h>
 #include <TestSupport.h>
 
 #include <QFile>
@@ -14,6 +14,7 @@
 
 using ko::qtToolkit::test::moveHeld;
 using ko::qtToolkit::test::sliderHandleRect;
+using ko::qtToolkit::test::PaintCounter;
 using ko::qtToolkit::widget::Fader;
 
 Q_DECLARE_METATYPE(Qt::MouseButton)
@@ -37,21 +38,6 @@ protected:
     {
         ++wheels;
         event->accept();
-    }
-};
-
-// Counts the paint events of the watched widget.
-class PaintCounter : public QObject
-{
-public:
-    int paints = 0;
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint)
-            ++paints;
-        return QObject::eventFilter(watched, event);
     }
 };
 

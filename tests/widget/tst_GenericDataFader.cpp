@@ -1,6 +1,6 @@
 #include <ko/qtToolkit/widget/GenericDataFader.h>
 
-#include <DragSupport.h>
+#include <WidgetSupport.h>
 #include <TestSupport.h>
 
 #include <QPainter>

@@ -1,6 +1,7 @@
 #include <ko/qtToolkit/widget/LevelMeter.h>
 
 #include <TestSupport.h>
+#include <WidgetSupport.h>
 
 #include <QMetaProperty>
 #include <QSignalSpy>
@@ -9,6 +10,7 @@
 #include <cmath>
 
 using ko::qtToolkit::test::artifactPath;
+using ko::qtToolkit::test::PaintCounter;
 using ko::qtToolkit::widget::LevelMeter;
 
 namespace {
@@ -19,21 +21,6 @@ const QColor medium(0xfa6500);
 const QColor high(0xc82300);
 const QColor frame(0x575757);
 const QColor red(0xff0000);
-
-// Counts the paint events of the watched widget.
-class PaintCounter : public QObject
-{
-public:
-    int paints = 0;
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint)
-            ++paints;
-        return QObject::eventFilter(watched, event);
-    }
-};
 
 // The meter as it paints itself, on black so that any pixel it leaves out shows.
 QImage paint(LevelMeter &meter, const QString &name)
@@ -76,30 +63,19 @@ void makeVertical(LevelMeter &meter, const QSize &size = QSize(20, 200))
     meter.show();
 }
 
-// The run of colours down the middle column of the inner rectangle: (colour, first row) pairs.
-QVector<QPair<QColor, int>> bandsDown(const QImage &image)
+// The runs of colours across the inner rectangle, through its middle: down a vertical meter,
+// from the left along a horizontal one. Each run as (colour, first row or column).
+QVector<QPair<QColor, int>> colourRuns(const QImage &image, Qt::Orientation orientation = Qt::Vertical)
 {
-    QVector<QPair<QColor, int>> bands;
-    const int x = image.width() / 2;
-    for (int y = 1; y < image.height() - 1; ++y) {
-        const QColor color = at(image, x, y);
-        if (bands.isEmpty() || bands.last().first != color)
-            bands.append({color, y});
+    QVector<QPair<QColor, int>> runs;
+    const bool vertical = orientation == Qt::Vertical;
+    const int length = vertical ? image.height() : image.width();
+    for (int i = 1; i < length - 1; ++i) {
+        const QColor color = vertical ? at(image, image.width() / 2, i) : at(image, i, image.height() / 2);
+        if (runs.isEmpty() || runs.last().first != color)
+            runs.append({color, i});
     }
-    return bands;
-}
-
-// The run of colours along the middle row of the inner rectangle, from the left.
-QVector<QPair<QColor, int>> bandsAcross(const QImage &image)
-{
-    QVector<QPair<QColor, int>> bands;
-    const int y = image.height() / 2;
-    for (int x = 1; x < image.width() - 1; ++x) {
-        const QColor color = at(image, x, y);
-        if (bands.isEmpty() || bands.last().first != color)
-            bands.append({color, x});
-    }
-    return bands;
+    return runs;
 }
 
 // The row of a vertical meter of height h where the gradient reaches \a fraction: position 0 is
@@ -438,7 +414,7 @@ void tst_LevelMeter::threeBandsWithHardEdges()
             QVERIFY2(at(image, x, y) == low || at(image, x, y) == medium || at(image, x, y) == high,
                      qPrintable(QStringLiteral("%1,%2 is %3").arg(x).arg(y).arg(describe(at(image, x, y)))));
 
-    const auto bands = bandsDown(image);
+    const auto bands = colourRuns(image);
     QCOMPARE(bands.size(), 3);
     QCOMPARE(bands.at(0).first, high);
     QCOMPARE(bands.at(1).first, medium);
@@ -577,7 +553,7 @@ void tst_LevelMeter::horizontalGradientIsMirrored()
     const QImage full = paint(meter, QStringLiteral("horizontal-full"));
 
     // The high colour at the left, where the bar starts; the low colour at the right end.
-    const auto bands = bandsAcross(full);
+    const auto bands = colourRuns(full, Qt::Horizontal);
     QCOMPARE(bands.size(), 3);
     QCOMPARE(bands.at(0).first, high);
     QCOMPARE(bands.at(1).first, medium);
@@ -590,7 +566,7 @@ void tst_LevelMeter::horizontalGradientIsMirrored()
     meter.setLevel(-55.0f);
     QCOMPARE(meter.value(), 6);
     const QImage partial = paint(meter, QStringLiteral("horizontal-low"));
-    const auto partialBands = bandsAcross(partial);
+    const auto partialBands = colourRuns(partial, Qt::Horizontal);
     QCOMPARE(partialBands.size(), 2);
     QCOMPARE(partialBands.at(0).first, high);
     QCOMPARE(partialBands.at(0).second, 1);
@@ -615,7 +591,7 @@ void tst_LevelMeter::colourSetters()
     meter.setBackgroundColor(newBackground);
     meter.setLevel(15.0f);
     QImage image = paint(meter, QStringLiteral("colours"));
-    const auto bands = bandsDown(image);
+    const auto bands = colourRuns(image);
     QCOMPARE(bands.size(), 3);
     QCOMPARE(bands.at(0).first, newHigh);
     QCOMPARE(bands.at(1).first, newMedium);
@@ -696,24 +672,24 @@ void tst_LevelMeter::gradientFollowsResizeAndThresholdsNotRange()
     LevelMeter meter;
     makeVertical(meter);
     meter.setLevel(15.0f);
-    const auto before = bandsDown(paint(meter, QStringLiteral("range-before")));
+    const auto before = colourRuns(paint(meter, QStringLiteral("range-before")));
     QCOMPARE(before.size(), 3);
 
     // A new range alone leaves the zones where they were.
     meter.setLevelRange(-100.0f, 15.0f);
     meter.setLevel(15.0f);
-    QCOMPARE(bandsDown(paint(meter, QStringLiteral("range-changed"))), before);
+    QCOMPARE(colourRuns(paint(meter, QStringLiteral("range-changed"))), before);
 
     // Setting a threshold, even to its value, rebuilds them for the new range.
     meter.setMediumThresholdLevel(-20.0f);
-    const auto rebuilt = bandsDown(paint(meter, QStringLiteral("range-rebuilt")));
+    const auto rebuilt = colourRuns(paint(meter, QStringLiteral("range-rebuilt")));
     QCOMPARE(rebuilt.size(), 3);
     QVERIFY(std::abs(rebuilt.at(1).second - rowOf(110.0 / 115.0, 200)) <= 1.0);
     QVERIFY(std::abs(rebuilt.at(2).second - rowOf(80.0 / 115.0, 200)) <= 1.0);
 
     // A threshold at the minimum leaves no low zone.
     meter.setMediumThresholdLevel(-100.0f);
-    const auto noLow = bandsDown(paint(meter, QStringLiteral("no-low")));
+    const auto noLow = colourRuns(paint(meter, QStringLiteral("no-low")));
     QCOMPARE(noLow.size(), 2);
     QCOMPARE(noLow.at(0).first, high);
     QCOMPARE(noLow.at(1).first, medium);
@@ -722,11 +698,11 @@ void tst_LevelMeter::gradientFollowsResizeAndThresholdsNotRange()
     LevelMeter other;
     makeVertical(other, QSize(20, 100));
     other.setLevel(15.0f);
-    const auto small = bandsDown(paint(other, QStringLiteral("small")));
+    const auto small = colourRuns(paint(other, QStringLiteral("small")));
     QCOMPARE(small.size(), 3);
     QVERIFY(std::abs(small.at(2).second - rowOf(40.0 / 75.0, 100)) <= 1.0);
     other.resize(20, 300);
-    const auto tall = bandsDown(paint(other, QStringLiteral("tall")));
+    const auto tall = colourRuns(paint(other, QStringLiteral("tall")));
     QCOMPARE(tall.size(), 3);
     QVERIFY(std::abs(tall.at(1).second - rowOf(70.0 / 75.0, 300)) <= 1.0);
     QVERIFY(std::abs(tall.at(2).second - rowOf(40.0 / 75.0, 300)) <= 1.0);

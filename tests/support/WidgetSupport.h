@@ -1,8 +1,10 @@
-#ifndef KO_QTTOOLKIT_DRAGSUPPORT_H
-#define KO_QTTOOLKIT_DRAGSUPPORT_H
+#ifndef KO_QTTOOLKIT_WIDGETSUPPORT_H
+#define KO_QTTOOLKIT_WIDGETSUPPORT_H
 
 #include <QApplication>
+#include <QEvent>
 #include <QMouseEvent>
+#include <QObject>
 #include <QSlider>
 #include <QStyle>
 #include <QStyleOptionSlider>
@@ -31,6 +33,21 @@ inline void moveHeld(QWidget *widget, const QPoint &position)
                       Qt::NoModifier);
     QApplication::sendEvent(widget, &event);
 }
+
+/// Counts the paint events of the widgets it is installed on as event filter.
+class PaintCounter : public QObject
+{
+public:
+    int paints = 0;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            ++paints;
+        return QObject::eventFilter(watched, event);
+    }
+};
 
 } // namespace ko::qtToolkit::test
 
