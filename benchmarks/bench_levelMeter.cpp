@@ -1,0 +1,217 @@
+// A wall of 64 vertical level meters of 20 by 200 pixels, as a 64-channel console shows them.
+// Every frame changes the level of each meter and then paints the wall into an image, the way
+// the window's backing store is painted. The same wall is built from LevelMeter, from
+// QProgressBar under the Fusion style, and (when Qwt is found) from QwtThermo with its alarm
+// zone on; each reports microseconds per meter per frame, and the ratios are printed at the end.
+//
+//   bench_levelMeter [--benchmark_min_time=2]
+
+#include <ko/qtToolkit/widget/LevelMeter.h>
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QProgressBar>
+#include <QStyleFactory>
+
+#ifdef KO_HAVE_QWT
+#include <qwt_thermo.h>
+#endif
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <functional>
+#include <limits>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr int meterCount = 64;
+constexpr int meterWidth = 20;
+constexpr int meterHeight = 200;
+// Frames of levels played in a loop; consecutive frames differ for every meter.
+constexpr int frameCount = 60;
+constexpr float minimumLevel = -60.0f;
+constexpr float maximumLevel = 15.0f;
+
+// A simulated programme: each channel a sine of its own phase and speed over the level range.
+std::vector<float> makeLevels()
+{
+    std::vector<float> levels;
+    levels.reserve(frameCount * meterCount);
+    const double twoPi = 2.0 * std::acos(-1.0);
+    for (int frame = 0; frame < frameCount; ++frame) {
+        for (int meter = 0; meter < meterCount; ++meter) {
+            const double phase = twoPi * (double(frame) / frameCount * (1 + meter % 3) + double(meter) / meterCount);
+            levels.push_back(minimumLevel + (maximumLevel - minimumLevel) * float(0.5 + 0.5 * std::sin(phase)));
+        }
+    }
+    return levels;
+}
+
+const std::vector<float> &levels()
+{
+    static const std::vector<float> table = makeLevels();
+    return table;
+}
+
+int percentOf(float level)
+{
+    return int((level - minimumLevel) / (maximumLevel - minimumLevel) * 100.0f);
+}
+
+// Builds the wall with \a create, then per frame sets every level with \a setLevel and renders.
+template <typename Meter>
+void runWall(benchmark::State &state, const std::function<Meter *(QWidget *)> &create,
+             const std::function<void(Meter *, float)> &setLevel)
+{
+    QWidget wall;
+    wall.resize(meterCount * meterWidth, meterHeight);
+    std::vector<Meter *> meters;
+    for (int i = 0; i < meterCount; ++i) {
+        Meter *meter = create(&wall);
+        meter->setGeometry(i * meterWidth, 0, meterWidth, meterHeight);
+        meters.push_back(meter);
+    }
+    QImage image(wall.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    // One frame first, so that polishing and the first layout are not measured.
+    wall.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+
+    const std::vector<float> &table = levels();
+    int frame = 0;
+    for (auto _ : state) {
+        const float *frameLevels = table.data() + frame * meterCount;
+        for (int i = 0; i < meterCount; ++i)
+            setLevel(meters[i], frameLevels[i]);
+        wall.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+        benchmark::DoNotOptimize(image.constBits());
+        frame = (frame + 1) % frameCount;
+    }
+    // Seconds per meter and frame (shown in microseconds).
+    state.counters["per_meter"] =
+        benchmark::Counter(meterCount, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+
+void BM_LevelMeterWall(benchmark::State &state)
+{
+    using ko::qtToolkit::widget::LevelMeter;
+    runWall<LevelMeter>(
+        state,
+        [](QWidget *parent) {
+            auto *meter = new LevelMeter(parent);
+            meter->setOrientation(Qt::Vertical);
+            return meter;
+        },
+        [](LevelMeter *meter, float level) { meter->setLevel(level); });
+}
+BENCHMARK(BM_LevelMeterWall)->Unit(benchmark::kMicrosecond);
+
+void BM_ProgressBarWall(benchmark::State &state)
+{
+    runWall<QProgressBar>(
+        state,
+        [](QWidget *parent) {
+            auto *bar = new QProgressBar(parent);
+            bar->setOrientation(Qt::Vertical);
+            bar->setRange(0, 100);
+            return bar;
+        },
+        [](QProgressBar *bar, float level) { bar->setValue(percentOf(level)); });
+}
+BENCHMARK(BM_ProgressBarWall)->Unit(benchmark::kMicrosecond);
+
+#ifdef KO_HAVE_QWT
+void BM_QwtThermoWall(benchmark::State &state)
+{
+    runWall<QwtThermo>(
+        state,
+        [](QWidget *parent) {
+            auto *thermo = new QwtThermo(parent);
+            thermo->setOrientation(Qt::Vertical);
+            thermo->setScalePosition(QwtThermo::NoScale);
+            thermo->setScale(minimumLevel, maximumLevel);
+            thermo->setPipeWidth(meterWidth - 4);
+            thermo->setFillBrush(QColor(0x008000));
+            thermo->setAlarmBrush(QColor(0xc82300));
+            thermo->setAlarmLevel(10.0);
+            thermo->setAlarmEnabled(true);
+            return thermo;
+        },
+        [](QwtThermo *thermo, float level) { thermo->setValue(level); });
+}
+BENCHMARK(BM_QwtThermoWall)->Unit(benchmark::kMicrosecond);
+#endif
+
+// Shows the runs as usual and keeps the fastest CPU time per frame of each benchmark (CPU time:
+// the machines that run this are often shared).
+class RecordingReporter : public benchmark::ConsoleReporter
+{
+public:
+    std::map<std::string, double> secondsPerFrame;
+
+    void ReportRuns(const std::vector<Run> &reports) override
+    {
+        for (const Run &run : reports) {
+            if (run.run_type != Run::RT_Iteration || run.iterations == 0)
+                continue;
+            const double seconds = run.cpu_accumulated_time / double(run.iterations);
+            auto found = secondsPerFrame.find(run.benchmark_name());
+            if (found == secondsPerFrame.end())
+                secondsPerFrame.emplace(run.benchmark_name(), seconds);
+            else
+                found->second = std::min(found->second, seconds);
+        }
+        ConsoleReporter::ReportRuns(reports);
+    }
+
+    double microsecondsPerMeter(const std::string &name) const
+    {
+        const auto found = secondsPerFrame.find(name);
+        return found == secondsPerFrame.end() ? std::numeric_limits<double>::quiet_NaN()
+                                              : found->second * 1e6 / meterCount;
+    }
+};
+
+void printComparison(const RecordingReporter &reporter)
+{
+    const double ours = reporter.microsecondsPerMeter("BM_LevelMeterWall");
+    const double progressBar = reporter.microsecondsPerMeter("BM_ProgressBarWall");
+    std::printf("\nMicroseconds per meter per frame (64 meters of 20x200, level change and paint):\n");
+    std::printf("  LevelMeter            %8.2f\n", ours);
+    std::printf("  QProgressBar (Fusion) %8.2f\n", progressBar);
+#ifdef KO_HAVE_QWT
+    const double thermo = reporter.microsecondsPerMeter("BM_QwtThermoWall");
+    std::printf("  QwtThermo (alarm on)  %8.2f\n", thermo);
+#endif
+    std::printf("ratio ours/QProgressBar: %.3f (target <= 0.1)\n", ours / progressBar);
+#ifdef KO_HAVE_QWT
+    std::printf("ratio ours/QwtThermo: %.3f (target <= 1.5)\n", ours / thermo);
+#else
+    std::printf("ratio ours/QwtThermo: not measured (Qwt not found)\n");
+#endif
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    // Painting needs no display.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    RecordingReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    benchmark::Shutdown();
+    printComparison(reporter);
+    return 0;
+}
