@@ -42,6 +42,11 @@ namespace {
 
 // Qt keeps index widgets in the item view's editor registry and deletes every registered widget
 // whose row goes away. Unregistering the widget first lets it outlive its row.
+// Qt does not export the type information of its private classes, which the undefined-behaviour
+// sanitizer's check of the downcast would need.
+#if defined(__GNUC__)
+__attribute__((no_sanitize("vptr")))
+#endif
 void releaseIndexWidget(QAbstractItemView *view, QWidget *widget)
 {
     auto *viewPrivate = static_cast<QAbstractItemViewPrivate *>(QObjectPrivate::get(view));
