@@ -55,6 +55,21 @@ struct Fixture
         widget.show();
     }
 
+    // Adds rows until the list scrolls.
+    bool addRowsUntilScrolling()
+    {
+        fill(widget, 30);
+        return QTest::qWaitFor([this] { return scrollBar->maximum() > 0; });
+    }
+
+    // Removes rows until the two left all fit.
+    bool removeRowsUntilAllFit()
+    {
+        while (widget.count() > 2)
+            widget.removeItem(qobject_cast<QAbstractButton *>(widget.widget(widget.count() - 1)));
+        return QTest::qWaitFor([this] { return scrollBar->maximum() == 0; });
+    }
+
     WidgetBase widget;
     NavigatorButton *previous = nullptr;
     NavigatorButton *next = nullptr;
@@ -128,8 +143,7 @@ private Q_SLOTS:
     {
         QFETCH(Direction, direction);
         Fixture fixture(direction);
-        fill(fixture.widget, 30);
-        QTRY_VERIFY(fixture.scrollBar->maximum() > 1);
+        QVERIFY(fixture.addRowsUntilScrolling());
         QScrollBar *other = direction == Direction::Horizontal ? fixture.widget.getList()->verticalScrollBar()
                                                                : fixture.widget.getList()->horizontalScrollBar();
         QCOMPARE(fixture.scrollBar->value(), 0);
@@ -160,12 +174,9 @@ private Q_SLOTS:
     {
         QFETCH(Direction, direction);
         Fixture fixture(direction);
-        fill(fixture.widget, 30);
-        QTRY_VERIFY(fixture.scrollBar->maximum() > 0);
+        QVERIFY(fixture.addRowsUntilScrolling());
         QVERIFY(fixture.next->isEnabled());
-        while (fixture.widget.count() > 2)
-            fixture.widget.removeItem(qobject_cast<QAbstractButton *>(fixture.widget.widget(0)));
-        QTRY_COMPARE(fixture.scrollBar->maximum(), 0);
+        QVERIFY(fixture.removeRowsUntilAllFit());
         QCOMPARE(fixture.scrollBar->minimum(), 0);
         QVERIFY(!fixture.previous->isEnabled());
         QVERIFY(!fixture.next->isEnabled());
@@ -191,18 +202,15 @@ private Q_SLOTS:
         QVERIFY(fixture.next->isVisible());
 
         // Enough rows to scroll: shown; back to rows that all fit: hidden.
-        fill(fixture.widget, 30);
-        QTRY_VERIFY(fixture.scrollBar->maximum() > 0);
+        QVERIFY(fixture.addRowsUntilScrolling());
         QVERIFY(fixture.previous->isVisible());
         QVERIFY(fixture.next->isVisible());
-        while (fixture.widget.count() > 2)
-            fixture.widget.removeItem(qobject_cast<QAbstractButton *>(fixture.widget.widget(2)));
-        QTRY_COMPARE(fixture.scrollBar->maximum(), 0);
+        QVERIFY(fixture.removeRowsUntilAllFit());
         QVERIFY(!fixture.previous->isVisible());
         QVERIFY(!fixture.next->isVisible());
 
-        fill(fixture.widget, 30);
-        QTRY_VERIFY(fixture.next->isVisible());
+        QVERIFY(fixture.addRowsUntilScrolling());
+        QVERIFY(fixture.next->isVisible());
         QVERIFY(fixture.previous->isVisible());
     }
 

@@ -61,10 +61,17 @@ struct Fixture
     QWidget *column(int section) const { return table.widgetForHeaderSection(section, Qt::Horizontal); }
     QWidget *row(int section) const { return table.widgetForHeaderSection(section, Qt::Vertical); }
 
+    static int count(Qt::Orientation orientation) { return orientation == Qt::Horizontal ? 6 : 30; }
+
+    // Where a head widget belongs before any scrolling, resizing or moving.
+    static QRect headRect(Qt::Orientation orientation, int section)
+    {
+        return orientation == Qt::Horizontal ? QRect(90 * section, 0, 90, 32) : QRect(0, 28 * section, 60, 28);
+    }
+
     void markAll(Qt::Orientation orientation)
     {
-        const int count = orientation == Qt::Horizontal ? 6 : 30;
-        for (int section = 0; section < count; ++section)
+        for (int section = 0; section < count(orientation); ++section)
             table.widgetForHeaderSection(section, orientation)->setGeometry(untouched);
     }
 
@@ -205,12 +212,12 @@ private Q_SLOTS:
         const QHeaderView *rows = fixture.table.verticalHeader();
         for (int column = 0; column < 6; ++column) {
             QVERIFY(fixture.column(column)->isVisible());
-            QCOMPARE(fixture.column(column)->geometry(), QRect(90 * column, 0, 90, 32));
+            QCOMPARE(fixture.column(column)->geometry(), Fixture::headRect(Qt::Horizontal, column));
             QCOMPARE(fixture.column(column)->geometry(), sectionRect(columns, column));
         }
         for (int row = 0; row < 30; ++row) {
             QVERIFY(fixture.row(row)->isVisible());
-            QCOMPARE(fixture.row(row)->geometry(), QRect(0, 28 * row, 60, 28));
+            QCOMPARE(fixture.row(row)->geometry(), Fixture::headRect(Qt::Vertical, row));
             QCOMPARE(fixture.row(row)->geometry(), sectionRect(rows, row));
         }
     }
@@ -231,28 +238,29 @@ private Q_SLOTS:
         QCOMPARE(late->geometry(), QRect(270, 0, 90, 32));
     }
 
-    void verticalScrollMovesOnlyRowHeads()
+    void scrollMovesOnlyHeadsAlongIt_data()
     {
-        Fixture fixture;
-        QVERIFY(QTest::qWaitForWindowExposed(&fixture.table));
-        fixture.markAll(Qt::Horizontal);
-        fixture.table.verticalScrollBar()->setValue(40);
-        for (int row = 0; row < 30; ++row)
-            QCOMPARE(fixture.row(row)->geometry(), QRect(0, 28 * row - 40, 60, 28));
-        for (int column = 0; column < 6; ++column)
-            QCOMPARE(fixture.column(column)->geometry(), untouched);
+        QTest::addColumn<Qt::Orientation>("scrolled");
+        QTest::newRow("vertical: row heads only") << Qt::Vertical;
+        QTest::newRow("horizontal: column heads only") << Qt::Horizontal;
     }
 
-    void horizontalScrollMovesOnlyColumnHeads()
+    void scrollMovesOnlyHeadsAlongIt()
     {
+        QFETCH(Qt::Orientation, scrolled);
+        const Qt::Orientation other = scrolled == Qt::Horizontal ? Qt::Vertical : Qt::Horizontal;
         Fixture fixture;
         QVERIFY(QTest::qWaitForWindowExposed(&fixture.table));
-        fixture.markAll(Qt::Vertical);
-        fixture.table.horizontalScrollBar()->setValue(50);
-        for (int column = 0; column < 6; ++column)
-            QCOMPARE(fixture.column(column)->geometry(), QRect(90 * column - 50, 0, 90, 32));
-        for (int row = 0; row < 30; ++row)
-            QCOMPARE(fixture.row(row)->geometry(), untouched);
+        fixture.markAll(other);
+        QScrollBar *scrollBar = scrolled == Qt::Horizontal ? fixture.table.horizontalScrollBar()
+                                                           : fixture.table.verticalScrollBar();
+        scrollBar->setValue(40);
+        for (int section = 0; section < Fixture::count(scrolled); ++section)
+            QCOMPARE(fixture.table.widgetForHeaderSection(section, scrolled)->geometry(),
+                     Fixture::headRect(scrolled, section).translated(scrolled == Qt::Horizontal ? QPoint(-40, 0)
+                                                                                                : QPoint(0, -40)));
+        for (int section = 0; section < Fixture::count(other); ++section)
+            QCOMPARE(fixture.table.widgetForHeaderSection(section, other)->geometry(), untouched);
     }
 
     void resizeMovesResizedSectionAndLater()
