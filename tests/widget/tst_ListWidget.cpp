@@ -536,7 +536,10 @@ private Q_SLOTS:
                 if (pool.isDestroyed(id) || list.widget(row) != button)
                     return QStringLiteral("row %1 does not show button %2").arg(row).arg(id);
                 if (list.row(button) != row)
-                    return QStringLiteral("row() of button %1 is %2, expected %3").arg(id).arg(list.row(button)).arg(row);
+                    return QStringLiteral("row() of button %1 is %2, expected %3")
+                        .arg(id)
+                        .arg(list.row(button))
+                        .arg(row);
                 if (button->isChecked() != (id == model.checked))
                     return QStringLiteral("button %1 checked: %2").arg(id).arg(button->isChecked());
             }
@@ -650,8 +653,9 @@ private Q_SLOTS:
             ++performed[operation];
 
             const QString problem = mismatch();
-            QVERIFY2(problem.isEmpty(),
-                     qPrintable(QStringLiteral("step %1, %2: %3").arg(step).arg(QLatin1String(names[operation]), problem)));
+            QVERIFY2(problem.isEmpty(), qPrintable(QStringLiteral("step %1, %2: %3")
+                                                       .arg(step)
+                                                       .arg(QLatin1String(names[operation]), problem)));
         }
 
         // Every kind of operation ran often enough to matter.

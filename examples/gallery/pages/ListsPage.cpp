@@ -63,8 +63,8 @@ QWidget *createVerticalList()
     WidgetBase *list = createPresetList(QStringLiteral("Presets"), Direction::Vertical, names);
     auto *current = new QLabel;
     QObject::connect(list, &WidgetBase::currentRowChanged, current, [current, list](int row) {
-        current->setText(row < 0 ? QStringLiteral("No preset")
-                                 : QStringLiteral("Loaded: %1").arg(qobject_cast<QAbstractButton *>(list->widget(row))->text()));
+        const auto *button = qobject_cast<QAbstractButton *>(list->widget(row));
+        current->setText(button ? QStringLiteral("Loaded: %1").arg(button->text()) : QStringLiteral("No preset"));
     });
     current->setText(QStringLiteral("Loaded: Preset 1"));
     layout->addWidget(list, 1);
@@ -74,7 +74,7 @@ QWidget *createVerticalList()
 
 QWidget *createHorizontalList()
 {
-    auto *box = new QGroupBox(QStringLiteral("Scenes"));
+    auto *box = new QGroupBox(QStringLiteral("Scene presets"));
     auto *layout = new QVBoxLayout(box);
     const QStringList names{QStringLiteral("Intro"),  QStringLiteral("Verse"),    QStringLiteral("Chorus"),
                             QStringLiteral("Bridge"), QStringLiteral("Solo"),     QStringLiteral("Break"),
@@ -110,9 +110,12 @@ QWidget *createTable()
                                QStringLiteral("Keys"),  QStringLiteral("Drums"),  QStringLiteral("Ambience")};
     table->setColumnCount(channels.size());
     table->setRowCount(4);
-    for (int column = 0; column < channels.size(); ++column)
-        table->setWidgetForHeaderSection(column, Qt::Horizontal, columnHead(channels.at(column), QStringLiteral("Mute")));
-    const QStringList rows{QStringLiteral("Gain"), QStringLiteral("Pan"), QStringLiteral("Aux 1"), QStringLiteral("Aux 2")};
+    for (int column = 0; column < channels.size(); ++column) {
+        table->setWidgetForHeaderSection(column, Qt::Horizontal,
+                                         columnHead(channels.at(column), QStringLiteral("Mute")));
+    }
+    const QStringList rows{QStringLiteral("Gain"), QStringLiteral("Pan"), QStringLiteral("Aux 1"),
+                           QStringLiteral("Aux 2")};
     for (int row = 0; row < rows.size(); ++row) {
         auto *label = new QLabel(rows.at(row));
         label->setAutoFillBackground(true);
