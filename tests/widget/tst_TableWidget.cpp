@@ -356,6 +356,19 @@ private Q_SLOTS:
         QCOMPARE(table.topLeftCornerWidget(), corner.data());
     }
 
+    void cornerWidgetTakenBackIsNotDeleted()
+    {
+        Table table;
+        QWidget keeper;
+        QPointer<QPushButton> corner = new QPushButton;
+        table.setTopLeftCornerWidget(corner);
+        corner->setParent(&keeper);
+        QCOMPARE(table.topLeftCornerWidget(), nullptr);
+        table.setTopLeftCornerWidget(new QPushButton);
+        QVERIFY(!corner.isNull());
+        QCOMPARE(corner->parentWidget(), &keeper);
+    }
+
     void clearKeepsOnlyCornerWidget()
     {
         Fixture fixture;

@@ -10,6 +10,7 @@ public:
     explicit TableWidgetPrivate(TableWidget *table);
 
     HeaderViewWidget *header(Qt::Orientation orientation);
+    QWidget *cornerWidget() const;
     void setTopLeftCornerWidget(QWidget *widget);
     void placeTopLeftCornerWidget();
 
@@ -42,12 +43,18 @@ HeaderViewWidget *TableWidgetPrivate::header(Qt::Orientation orientation)
     return nullptr;
 }
 
+// Like the header widgets, the corner widget is the table's while the table is its parent.
+QWidget *TableWidgetPrivate::cornerWidget() const
+{
+    return topLeftCornerWidget && topLeftCornerWidget->parentWidget() == table ? topLeftCornerWidget.data() : nullptr;
+}
+
 void TableWidgetPrivate::setTopLeftCornerWidget(QWidget *widget)
 {
-    // A corner widget that was re-parented elsewhere is no longer the table's to delete.
-    if (topLeftCornerWidget && topLeftCornerWidget != widget && topLeftCornerWidget->parentWidget() == table)
-        delete topLeftCornerWidget;
-    table->setCornerButtonEnabled(widget);
+    QWidget *previous = cornerWidget();
+    if (previous != widget)
+        delete previous;
+    table->setCornerButtonEnabled(widget != nullptr);
     topLeftCornerWidget = widget;
     if (!widget)
         return;
@@ -58,8 +65,8 @@ void TableWidgetPrivate::setTopLeftCornerWidget(QWidget *widget)
 
 void TableWidgetPrivate::placeTopLeftCornerWidget()
 {
-    if (topLeftCornerWidget)
-        topLeftCornerWidget->setGeometry(0, 0, verticalHeader.width(), horizontalHeader.height());
+    if (QWidget *widget = cornerWidget())
+        widget->setGeometry(0, 0, verticalHeader.width(), horizontalHeader.height());
 }
 
 TableWidget::TableWidget(QWidget *parent)
@@ -93,7 +100,7 @@ void TableWidget::setTopLeftCornerWidget(QWidget *widget)
 
 QWidget *TableWidget::topLeftCornerWidget() const
 {
-    return d->topLeftCornerWidget;
+    return d->cornerWidget();
 }
 
 void TableWidget::clear()
