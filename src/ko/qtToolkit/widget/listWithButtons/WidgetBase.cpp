@@ -1,0 +1,50 @@
+#include <ko/qtToolkit/widget/listWithButtons/WidgetBase.h>
+
+#include <ko/qtToolkit/widget/listWithButtons/NavigatorButtonNext.h>
+#include <ko/qtToolkit/widget/listWithButtons/NavigatorButtonPrevious.h>
+
+#include <QBoxLayout>
+#include <QScrollBar>
+
+namespace ko::qtToolkit::widget::listWithButtons {
+
+namespace {
+
+QScrollBar &scrollBarOf(ListWidget &list, Direction direction)
+{
+    return *(direction == Direction::Horizontal ? list.horizontalScrollBar() : list.verticalScrollBar());
+}
+
+} // namespace
+
+WidgetBase::WidgetBase(const QString &testId, Direction direction, QWidget *parent)
+    : ListWrapper(testId, parent)
+    , boxLayout(createLayout(direction))
+    , previousButton(new NavigatorButtonPrevious(testId + QLatin1String(".PrevButton"), direction,
+                                                 scrollBarOf(*getList(), direction), this))
+    , nextButton(new NavigatorButtonNext(testId + QLatin1String(".NextButton"), direction,
+                                         scrollBarOf(*getList(), direction), this))
+{
+    boxLayout->addWidget(previousButton);
+    boxLayout->addWidget(getList());
+    boxLayout->addWidget(nextButton);
+    boxLayout->setContentsMargins(0, 0, 0, 0);
+    boxLayout->setSpacing(0);
+}
+
+WidgetBase::~WidgetBase()
+{
+    // The list, and with it the scroll bar the buttons hold on to, belongs to the base class and
+    // is destroyed before Qt deletes this widget's children: the buttons go first.
+    delete previousButton;
+    delete nextButton;
+}
+
+QBoxLayout *WidgetBase::createLayout(Direction direction)
+{
+    if (direction == Direction::Horizontal)
+        return new QHBoxLayout(this);
+    return new QVBoxLayout(this);
+}
+
+} // namespace ko::qtToolkit::widget::listWithButtons
