@@ -1,0 +1,21 @@
+#include <ko/qtToolkit/widget/Button.h>
+
+namespace ko::qtToolkit::widget {
+
+Button::Button(QWidget *parent)
+    : Button(QIcon(), QString(), parent)
+{
+}
+
+Button::Button(const QString &text, QWidget *parent)
+    : Button(QIcon(), text, parent)
+{
+}
+
+Button::Button(const QIcon &icon, const QString &text, QWidget *parent)
+    : QPushButton(icon, text, parent)
+{
+    setFocusPolicy(Qt::NoFocus);
+}
+
+} // namespace ko::qtToolkit::widget

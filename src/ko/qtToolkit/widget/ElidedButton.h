@@ -1,0 +1,67 @@
+#ifndef KO_QTTOOLKIT_WIDGET_ELIDEDBUTTON_H
+#define KO_QTTOOLKIT_WIDGET_ELIDEDBUTTON_H
+
+#include <ko/qtToolkit/qtToolkit_export.h>
+#include <ko/qtToolkit/widget/Button.h>
+
+namespace ko::qtToolkit::widget {
+
+/**
+ * \brief A focus-less push button whose caption is cut at the right to fit its width.
+ *
+ * text() always returns the full caption; only painting uses the shortened copy, measured
+ * with the button's font against the style's contents rectangle less the icon width (whether
+ * or not there is an icon) and 4 pixels. The caption is recomputed on show and on paint when
+ * the width or the text changed; a font change alone does not trigger it.
+ *
+ * The button body is painted from the widget's basic state only (enabled, hover, palette):
+ * a checked or pressed ElidedButton looks like a released one.
+ */
+class KO_QTTOOLKIT_EXPORT ElidedButton : public Button
+{
+public:
+    /**
+     * \brief A button without icon and text.
+     * \param parent the owner of the button, or null
+     */
+    explicit ElidedButton(QWidget *parent = nullptr)
+        : Button(parent)
+    {
+    }
+
+    /**
+     * \brief A button captioned \a text.
+     * \param parent the owner of the button, or null
+     */
+    explicit ElidedButton(const QString &text, QWidget *parent = nullptr)
+        : Button(text, parent)
+    {
+    }
+
+    /**
+     * \brief A button showing \a icon and \a text.
+     * \param parent the owner of the button, or null
+     */
+    ElidedButton(const QIcon &icon, const QString &text, QWidget *parent = nullptr)
+        : Button(icon, text, parent)
+    {
+    }
+
+    /**
+     * \brief Recomputes the painted caption when the width or the text changed since last time.
+     */
+    void updateElidedText();
+
+protected:
+    bool event(QEvent *e) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    int m_cachedWidth = -1;
+    QString m_sourceText;
+    QString m_elidedText;
+};
+
+} // namespace ko::qtToolkit::widget
+
+#endif

@@ -1,0 +1,73 @@
+#ifndef KO_QTTOOLKIT_WIDGET_ELIDEDLABEL_H
+#define KO_QTTOOLKIT_WIDGET_ELIDEDLABEL_H
+
+#include <ko/qtToolkit/qtToolkit_export.h>
+
+#include <QLabel>
+
+namespace ko::qtToolkit::widget {
+
+/**
+ * \brief A label that shortens the text it shows to its width, and keeps the full text.
+ *
+ * text() always returns the full text; only painting uses the shortened copy, measured with
+ * the label's font against its width less 4 pixels. Once it has painted a non-empty text, the
+ * label's minimum width is about one character and an ellipsis, so that layouts can shrink it
+ * that far and no further. The shortened text is recomputed when the text, the width or the
+ * elide mode changed; a font change alone does not trigger it.
+ */
+class KO_QTTOOLKIT_EXPORT ElidedLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    /**
+     * \brief An empty label.
+     * \param parent the owner of the label, or null
+     */
+    explicit ElidedLabel(QWidget *parent = nullptr, Qt::WindowFlags f = Qt::WindowFlags())
+        : QLabel(parent, f)
+    {
+    }
+
+    /**
+     * \brief A label showing \a text.
+     * \param parent the owner of the label, or null
+     */
+    explicit ElidedLabel(const QString &text, QWidget *parent = nullptr, Qt::WindowFlags f = Qt::WindowFlags())
+        : QLabel(text, parent, f)
+    {
+    }
+
+    /**
+     * \brief Sets where the text is cut; Qt::ElideNone makes the label paint as a QLabel.
+     *
+     * The default is Qt::ElideRight.
+     */
+    void setElideMode(Qt::TextElideMode mode);
+
+    /**
+     * \brief Where the text is cut.
+     */
+    Qt::TextElideMode elideMode() const;
+
+    /**
+     * \brief Recomputes the shortened text and the minimum width when the text changed.
+     *
+     * Painting calls it; a caller only needs it to see the minimum width before the next paint.
+     */
+    void updateCache();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    Qt::TextElideMode m_elideMode = Qt::ElideRight;
+    QString m_elidedText;
+    QString m_sourceText; // null while m_elidedText is out of date
+};
+
+} // namespace ko::qtToolkit::widget
+
+#endif
