@@ -1,0 +1,75 @@
+#ifndef KO_QTTOOLKIT_WIDGET_FADER_H
+#define KO_QTTOOLKIT_WIDGET_FADER_H
+
+#include <ko/qtToolkit/qtToolkit_export.h>
+
+#include <QSlider>
+
+#include <memory>
+
+namespace ko::qtToolkit::widget {
+
+class FaderPrivate;
+
+/**
+ * \brief A slider for touch screens: the handle must be grabbed, and drags are relative.
+ *
+ * A press on the groove does not move the handle: a press outside the handle is ignored and
+ * goes on to the parent widget, so a scrolling list or area under the fader can take it. The
+ * wheel never moves a fader (the wheel event goes on to the parent).
+ *
+ * The value follows the distance dragged from the point where the handle was grabbed. The first
+ * 11 pixels of a drag choose the speed: moving along the fader first selects fine mode, one unit
+ * for every 10 pixels; moving across it first selects coarse mode, one unit for every 5 pixels,
+ * shown in steps of 10. The mode lasts until the button is released and is published to the
+ * style sheet as the dynamic property "class" ("fine" or "coarse", absent otherwise), so a rule
+ * such as "ko--qtToolkit--widget--Fader[class=fine]::handle:vertical" can restyle the handle
+ * while it is dragged.
+ *
+ * Fine mode sets the single step to 10 and coarse mode to 5; the step is not restored after the
+ * drag, so singleStep() keeps the value of the last drag.
+ *
+ * The fader is 17 pixels wide whatever its orientation (also when horizontal) and takes no
+ * keyboard focus. A disabled fader handles no events of its own.
+ */
+class KO_QTTOOLKIT_EXPORT Fader : public QSlider
+{
+    Q_OBJECT
+    Q_PROPERTY(bool isSliding READ isSliding NOTIFY slidingChanged)
+
+public:
+    /**
+     * \brief A vertical fader.
+     * \param parent the parent widget, which owns the fader; may be null.
+     */
+    explicit Fader(QWidget *parent = nullptr);
+
+    /**
+     * \brief A fader with the given \a orientation.
+     * \param parent the parent widget, which owns the fader; may be null.
+     */
+    explicit Fader(Qt::Orientation orientation, QWidget *parent = nullptr);
+
+    ~Fader() override;
+
+    /**
+     * \brief Whether the handle is held: true from a left press on the handle to the next
+     *        release of any mouse button.
+     */
+    bool isSliding() const;
+
+Q_SIGNALS:
+    /**
+     * \brief Emitted with true when the handle is grabbed, and with false at every mouse button
+     *        release the fader receives, also when no grab happened before it.
+     */
+    void slidingChanged(bool isSliding);
+
+private:
+    friend class FaderPrivate;
+    std::unique_ptr<FaderPrivate> const d;
+};
+
+} // namespace ko::qtToolkit::widget
+
+#endif

@@ -1,0 +1,88 @@
+#ifndef KO_QTTOOLKIT_WIDGET_GENERICDATAFADER_H
+#define KO_QTTOOLKIT_WIDGET_GENERICDATAFADER_H
+
+#include <ko/qtToolkit/qtToolkit_export.h>
+#include <ko/qtToolkit/widget/Fader.h>
+
+namespace ko::qtToolkit::widget {
+
+/**
+ * \brief A Fader over a floating-point range with a fixed number of decimals.
+ *
+ * The data range is mapped onto the slider's integer range by multiplying with the scale,
+ * 10 to the power of the number of decimals: with 2 decimals and a data range of -1.5 to 1.5 the
+ * slider runs from -150 to 150. Data values are truncated toward zero to that grid and clamped
+ * to the range by the slider.
+ *
+ * The fader labels its range in small text: the maximum at the top right and the minimum at the
+ * bottom right.
+ *
+ * The constructor does not set the slider's range: until one of the range setters runs,
+ * QSlider's default range applies while the scale is already 10 (one decimal).
+ *
+ * The dynamic property "TestTag" is "GenericDataFader".
+ */
+class KO_QTTOOLKIT_EXPORT GenericDataFader : public Fader
+{
+    Q_OBJECT
+    Q_PROPERTY(float GenericFaderData READ getData WRITE setData NOTIFY dataChanged)
+
+public:
+    /**
+     * \brief A data fader with the range 0 to 10 and one decimal (not yet applied to the slider).
+     * \param parent the parent widget, which owns the fader; may be null.
+     */
+    explicit GenericDataFader(Qt::Orientation orientation, QWidget *parent = nullptr);
+
+    /// \brief The slider's value divided by the scale.
+    float getData() const;
+
+    /// \brief The lower end of the data range; 0 by default.
+    float getMinimumData() const;
+
+    /// \brief Sets the lower end of the data range and updates the slider's range.
+    void setMinimumData(float minimum);
+
+    /// \brief The upper end of the data range; 10 by default.
+    float getMaximumData() const;
+
+    /// \brief Sets the upper end of the data range and updates the slider's range.
+    void setMaximumData(float maximum);
+
+    /// \brief The number of decimals kept; 1 by default.
+    unsigned int getNumberOfDecimals() const;
+
+    /// \brief Sets the number of decimals kept and updates the scale and the slider's range.
+    void setNumberOfDecimals(unsigned int decimals);
+
+    /**
+     * \brief Recomputes the scale (10 to the power of the number of decimals) and sets the
+     *        slider's range to the data range times the scale, truncated toward zero.
+     */
+    void updateFaderRange();
+
+public Q_SLOTS:
+    /**
+     * \brief Sets the slider to \a data times the scale, truncated toward zero and clamped by
+     *        the slider to its range. dataChanged() follows only when the slider's value changes.
+     */
+    void setData(float data);
+
+Q_SIGNALS:
+    /// \brief Emitted with getData() whenever the slider's value changes.
+    void dataChanged(float value);
+
+protected:
+    /// \brief Draws the range labels, then the slider over them.
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    float m_minimumData = 0.0f;
+    float m_maximumData = 10.0f;
+    unsigned int m_numberOfDecimals = 1;
+    float m_scale = 10.0f;
+};
+
+} // namespace ko::qtToolkit::widget
+
+#endif

@@ -1,0 +1,151 @@
+#ifndef KO_QTTOOLKIT_WIDGET_LEVELMETER_H
+#define KO_QTTOOLKIT_WIDGET_LEVELMETER_H
+
+#include <ko/qtToolkit/qtToolkit_export.h>
+
+#include <QBrush>
+#include <QColor>
+#include <QPen>
+#include <QProgressBar>
+
+namespace ko::qtToolkit::widget {
+
+/**
+ * \brief A bar meter for audio levels with three colour zones.
+ *
+ * The level is a float in its own range (-60 to +15 by default) and is mapped onto the
+ * progress bar's integer range (minimum() to maximum(), QProgressBar's default unless the
+ * application sets another). The meter paints itself completely: the low colour below the
+ * medium threshold (-20 by default), the medium colour up to the high threshold (+10 by default)
+ * and the high colour above it, with hard edges between the zones; the unlit part in the
+ * background colour; a one-pixel grey frame. A muted meter is washed out and framed twice in
+ * red; a disabled one is washed out with its normal frame.
+ *
+ * The colours run from the bottom of a vertical meter to its top. On a horizontal meter they
+ * run from the right edge to the left while the bar grows from the left, so the high colour
+ * lights first; this mirrored look is intended.
+ *
+ * The colour gradient is rebuilt on resize, on a threshold change and on a change of the low,
+ * medium or high colour. A change of the level range alone leaves the zones where the old range
+ * put them until then.
+ */
+class KO_QTTOOLKIT_EXPORT LevelMeter : public QProgressBar
+{
+    Q_OBJECT
+    Q_PROPERTY(float minimumLevel READ minimumLevel WRITE setMinimumLevel)
+    Q_PROPERTY(float maximumLevel READ maximumLevel WRITE setMaximumLevel)
+    Q_PROPERTY(float mediumThresholdLevel READ mediumThresholdLevel WRITE setMediumThresholdLevel)
+    Q_PROPERTY(float highThresholdLevel READ highThresholdLevel WRITE setHighThresholdLevel)
+    Q_PROPERTY(float level READ level WRITE setLevel)
+    Q_PROPERTY(bool isMuted READ isMuted WRITE setMuted)
+
+public:
+    /**
+     * \brief A meter at level -60 in the range -60 to +15.
+     * \param parent the parent widget, which owns the meter; may be null.
+     */
+    explicit LevelMeter(QWidget *parent = nullptr);
+
+    /// \brief The level, clamped to the level range when it was set.
+    float level() const;
+    /// \brief The lower end of the level range; -60 by default.
+    float minimumLevel() const;
+    /// \brief The upper end of the level range; +15 by default.
+    float maximumLevel() const;
+    /// \brief Where the medium colour starts; -20 by default.
+    float mediumThresholdLevel() const;
+    /// \brief Where the high colour starts; +10 by default.
+    float highThresholdLevel() const;
+    /// \brief Whether the meter is shown muted (washed out, framed twice in red).
+    bool isMuted() const;
+
+    /**
+     * \brief Sets the level, clamped to the level range, and the progress bar's value mapped
+     *        from it. The meter is repainted when the value changes.
+     */
+    void setLevel(float level);
+
+    /**
+     * \brief Sets both ends of the level range; ignored when \a minimum is greater than
+     *        \a maximum. Neither the level nor the thresholds are clamped again.
+     */
+    void setLevelRange(float minimum, float maximum);
+
+    /// \brief Sets the lower end of the level range, raising the upper end to it if needed.
+    void setMinimumLevel(float minimum);
+
+    /// \brief Sets the upper end of the level range, lowering the lower end to it if needed.
+    void setMaximumLevel(float maximum);
+
+    /**
+     * \brief Sets the medium threshold, clamped to the level range; the high threshold is
+     *        raised to it if needed.
+     */
+    void setMediumThresholdLevel(float level);
+
+    /**
+     * \brief Sets the high threshold, clamped to the level range; the medium threshold is
+     *        lowered to it if needed.
+     */
+    void setHighThresholdLevel(float level);
+
+    /// \brief Shows the meter muted or not.
+    void setMuted(bool muted);
+
+    /// \brief The colour of the unlit part; #bbbbbb by default.
+    void setBackgroundColor(const QColor &color);
+    /// \brief The colour below the medium threshold; #008000 by default.
+    void setLowColor(const QColor &color);
+    /// \brief The colour between the thresholds; #fa6500 by default.
+    void setMediumColor(const QColor &color);
+    /// \brief The colour above the high threshold; #c82300 by default.
+    void setHighColor(const QColor &color);
+
+    /// \brief \a level limited to the level range; the minimum wins over the maximum.
+    float clampLevel(float level) const;
+
+    /// \brief The progress bar value of \a level, truncated toward zero and not clamped.
+    int mapLevelToValue(float level) const;
+
+    /**
+     * \brief Where \a level lies in the level range, as a fraction: 0 at the minimum, 1 at the
+     *        maximum (not a percentage, despite the name).
+     */
+    float mapLevelToPercentage(float level) const;
+
+    /// \brief Where \a value lies in the progress bar's range, as a fraction from 0 to 1.
+    float mapValueToPercentage(int value) const;
+
+    /**
+     * \brief The length in pixels of the lit part for \a value, measured on the full height
+     *        (vertical) or width (horizontal) of the widget and truncated toward zero.
+     */
+    int mapValueToPixels(int value) const;
+
+    /// \brief Rebuilds the colour gradient from the thresholds, the colours and the size.
+    void updateGradient();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    // The gradient is kept as a brush so that painting allocates nothing.
+    QBrush m_gradient;
+    QColor m_backgroundColor{0xbbbbbb};
+    QColor m_lowColor{0x008000};
+    QColor m_mediumColor{0xfa6500};
+    QColor m_highColor{0xc82300};
+    QPen m_framePen{QColor(0x575757)};
+    QPen m_mutedFramePen{QColor(0xff0000)};
+    float m_level = -60.0f;
+    float m_minimumLevel = -60.0f;
+    float m_maximumLevel = 15.0f;
+    float m_mediumThresholdLevel = -20.0f;
+    float m_highThresholdLevel = 10.0f;
+    bool m_muted = false;
+};
+
+} // namespace ko::qtToolkit::widget
+
+#endif

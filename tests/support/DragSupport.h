@@ -1,0 +1,37 @@
+#ifndef KO_QTTOOLKIT_DRAGSUPPORT_H
+#define KO_QTTOOLKIT_DRAGSUPPORT_H
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QSlider>
+#include <QStyle>
+#include <QStyleOptionSlider>
+
+namespace ko::qtToolkit::test {
+
+/// The handle rectangle of \a slider as its style reports it.
+inline QRect sliderHandleRect(const QSlider &slider)
+{
+    // initStyleOption() is protected; a pointer to it taken through a subclass is a plain
+    // pointer to QSlider's member.
+    struct Access : QSlider
+    {
+        using QSlider::initStyleOption;
+    };
+    QStyleOptionSlider option;
+    (slider.*(&Access::initStyleOption))(&option);
+    return slider.style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, &slider);
+}
+
+/// A move to \a position with the left button held, as a dragging finger sends it
+/// (QTest::mouseMove sends no buttons).
+inline void moveHeld(QWidget *widget, const QPoint &position)
+{
+    QMouseEvent event(QEvent::MouseMove, position, widget->mapToGlobal(position), Qt::NoButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(widget, &event);
+}
+
+} // namespace ko::qtToolkit::test
+
+#endif

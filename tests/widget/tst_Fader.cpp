@@ -1,0 +1,598 @@
+#include <ko/qtToolkit/widget/Fader.h>
+
+#include <DragSupport.h>
+#include <TestSupport.h>
+
+#include <QFile>
+#include <QMouseEvent>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+#include <QWindow>
+#include <qpa/qwindowsysteminterface.h>
+
+using ko::qtToolkit::test::moveHeld;
+using ko::qtToolkit::test::sliderHandleRect;
+using ko::qtToolkit::widget::Fader;
+
+Q_DECLARE_METATYPE(Qt::MouseButton)
+
+namespace {
+
+// Takes presses and wheel turns that children leave to it.
+class Parent : public QWidget
+{
+public:
+    QVector<QPoint> presses;
+    int wheels = 0;
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override
+    {
+        presses.append(event->pos());
+        event->accept();
+    }
+    void wheelEvent(QWheelEvent *event) override
+    {
+        ++wheels;
+        event->accept();
+    }
+};
+
+// Counts the paint events of the watched widget.
+class PaintCounter : public QObject
+{
+public:
+    int paints = 0;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            ++paints;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+void sendPress(QWidget *widget, QEvent::Type type, const QPointF &position, Qt::MouseButton button)
+{
+    QMouseEvent event(type, position, widget->mapToGlobal(position.toPoint()), button, button, Qt::NoModifier);
+    QApplication::sendEvent(widget, &event);
+}
+
+// A wheel turn over \a position of \a widget, delivered by the window system like a real one.
+void sendWheel(QWidget *widget, const QPoint &position, int angle)
+{
+    QWindow *window = widget->window()->windowHandle();
+    const QPoint local = widget->mapTo(widget->window(), position);
+    QWindowSystemInterface::handleWheelEvent(window, local, window->mapToGlobal(local), QPoint(), QPoint(0, angle));
+    QWindowSystemInterface::flushWindowSystemEvents();
+}
+
+QString readStyleSheet()
+{
+    QFile file(QStringLiteral(":/qtToolkit.qss"));
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return {};
+    return QString::fromUtf8(file.readAll());
+}
+
+// A fader shown inside a parent that records what the fader leaves to it.
+struct Scene
+{
+    Parent parent;
+    Fader *fader;
+
+    explicit Scene(Qt::Orientation orientation, int minimum = 0, int maximum = 100, int value = 50)
+        : fader(new Fader(orientation, &parent))
+    {
+        parent.resize(200, 300);
+        fader->setRange(minimum, maximum);
+        fader->setValue(value);
+        fader->setGeometry(50, 50, 17, orientation == Qt::Vertical ? 200 : 40);
+        parent.show();
+    }
+};
+
+QVariant noClass()
+{
+    return QVariant();
+}
+
+} // namespace
+
+class tst_Fader : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void defaults();
+    void pressOnHandleGrabs();
+    void pressOutsideHandleReachesParent_data();
+    void pressOutsideHandleReachesParent();
+    void handleEdgesCount_data();
+    void handleEdgesCount();
+    void doubleClickOnHandleGrabs();
+    void dragPath_data();
+    void dragPath();
+    void singleStepKeptAfterDrag();
+    void releaseWithoutGrabSignals();
+    void anyButtonReleaseEndsTheGrab();
+    void wheelNeverMovesTheFader_data();
+    void wheelNeverMovesTheFader();
+    void disabledFaderIsInert();
+    void modeChangeRepaintsAtOnce();
+    void modeLookFollowsStyleSheet();
+};
+
+void tst_Fader::defaults()
+{
+    Fader vertical;
+    QCOMPARE(vertical.orientation(), Qt::Vertical);
+    QCOMPARE(vertical.minimumWidth(), 17);
+    QCOMPARE(vertical.maximumWidth(), 17);
+    QCOMPARE(vertical.focusPolicy(), Qt::NoFocus);
+    QCOMPARE(vertical.isSliding(), false);
+    QCOMPARE(vertical.property("class"), noClass());
+    QCOMPARE(vertical.singleStep(), 1);
+
+    // Fixed at 17 pixels wide whatever the orientation.
+    Fader horizontal(Qt::Horizontal);
+    QCOMPARE(horizontal.orientation(), Qt::Horizontal);
+    QCOMPARE(horizontal.minimumWidth(), 17);
+    QCOMPARE(horizontal.maximumWidth(), 17);
+    QCOMPARE(horizontal.focusPolicy(), Qt::NoFocus);
+
+    const int index = Fader::staticMetaObject.indexOfProperty("isSliding");
+    QVERIFY(index >= 0);
+    const QMetaProperty property = Fader::staticMetaObject.property(index);
+    QVERIFY(property.isReadable());
+    QVERIFY(!property.isWritable());
+    QCOMPARE(vertical.property("isSliding"), QVariant(false));
+}
+
+void tst_Fader::pressOnHandleGrabs()
+{
+    Scene scene(Qt::Vertical);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    QSignalSpy sliding(scene.fader, &Fader::slidingChanged);
+    QSignalSpy values(scene.fader, &QSlider::valueChanged);
+
+    QTest::mousePress(scene.fader, Qt::LeftButton, {}, sliderHandleRect(*scene.fader).center());
+    QVERIFY(scene.fader->isSliding());
+    QCOMPARE(scene.fader->property("isSliding"), QVariant(true));
+    QCOMPARE(sliding.count(), 1);
+    QCOMPARE(sliding.at(0).at(0).toBool(), true);
+    QCOMPARE(scene.fader->value(), 50);
+    QCOMPARE(values.count(), 0);
+    QVERIFY(scene.parent.presses.isEmpty());
+    // QSlider never saw the press.
+    QVERIFY(!scene.fader->isSliderDown());
+
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, sliderHandleRect(*scene.fader).center());
+    QVERIFY(!scene.fader->isSliding());
+    QCOMPARE(sliding.count(), 2);
+    QCOMPARE(sliding.at(1).at(0).toBool(), false);
+    QCOMPARE(scene.fader->value(), 50);
+}
+
+void tst_Fader::pressOutsideHandleReachesParent_data()
+{
+    QTest::addColumn<Qt::Orientation>("orientation");
+    QTest::addColumn<QString>("where");
+    QTest::addColumn<Qt::MouseButton>("button");
+
+    QTest::newRow("vertical groove above the handle") << Qt::Vertical << QStringLiteral("before") << Qt::LeftButton;
+    QTest::newRow("vertical groove below the handle") << Qt::Vertical << QStringLiteral("after") << Qt::LeftButton;
+    QTest::newRow("horizontal groove beside the handle") << Qt::Horizontal << QStringLiteral("after")
+                                                         << Qt::LeftButton;
+    QTest::newRow("right button on the handle") << Qt::Vertical << QStringLiteral("handle") << Qt::RightButton;
+    QTest::newRow("middle button on the handle") << Qt::Vertical << QStringLiteral("handle") << Qt::MiddleButton;
+}
+
+void tst_Fader::pressOutsideHandleReachesParent()
+{
+    QFETCH(Qt::Orientation, orientation);
+    QFETCH(QString, where);
+    QFETCH(Qt::MouseButton, button);
+
+    Scene scene(orientation);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    const QRect handle = sliderHandleRect(*scene.fader);
+    QPoint point = handle.center();
+    if (where == QLatin1String("before"))
+        point.setY(handle.top() - 20);
+    else if (where == QLatin1String("after") && orientation == Qt::Vertical)
+        point.setY(handle.bottom() + 20);
+    else if (where == QLatin1String("after"))
+        point.setY(handle.bottom() + 5);
+    QVERIFY(scene.fader->rect().contains(point));
+
+    QSignalSpy sliding(scene.fader, &Fader::slidingChanged);
+    QSignalSpy values(scene.fader, &QSlider::valueChanged);
+    QTest::mousePress(scene.fader, button, {}, point);
+
+    QCOMPARE(scene.parent.presses, QVector<QPoint>{scene.fader->mapToParent(point)});
+    QVERIFY(!scene.fader->isSliding());
+    QCOMPARE(sliding.count(), 0);
+    QCOMPARE(scene.fader->value(), 50);
+    QCOMPARE(values.count(), 0);
+    QVERIFY(!scene.fader->isSliderDown());
+
+    // A drag that follows moves nothing either.
+    moveHeld(scene.fader, point + QPoint(0, -60));
+    moveHeld(scene.fader, point + QPoint(-60, -60));
+    QCOMPARE(scene.fader->value(), 50);
+    QCOMPARE(scene.fader->property("class"), noClass());
+    QTest::mouseRelease(scene.fader, button, {}, point);
+    QCOMPARE(scene.fader->value(), 50);
+}
+
+void tst_Fader::handleEdgesCount_data()
+{
+    QTest::addColumn<QString>("corner");
+    QTest::addColumn<QPointF>("offset");
+    QTest::addColumn<bool>("grabs");
+
+    QTest::newRow("top left corner") << QStringLiteral("topLeft") << QPointF(0, 0) << true;
+    QTest::newRow("bottom right corner") << QStringLiteral("bottomRight") << QPointF(0, 0) << true;
+    QTest::newRow("one pixel above") << QStringLiteral("topLeft") << QPointF(0, -1) << false;
+    QTest::newRow("one pixel below") << QStringLiteral("bottomRight") << QPointF(0, 1) << false;
+    QTest::newRow("rounds back onto the handle") << QStringLiteral("bottomRight") << QPointF(0, 0.4) << true;
+    QTest::newRow("rounds off the handle") << QStringLiteral("bottomRight") << QPointF(0, 0.6) << false;
+    QTest::newRow("rounds back above") << QStringLiteral("topLeft") << QPointF(0, -0.4) << true;
+}
+
+void tst_Fader::handleEdgesCount()
+{
+    QFETCH(QString, corner);
+    QFETCH(QPointF, offset);
+    QFETCH(bool, grabs);
+
+    Scene scene(Qt::Vertical);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    const QRect handle = sliderHandleRect(*scene.fader);
+    const QPointF point = QPointF(corner == QLatin1String("topLeft") ? handle.topLeft() : handle.bottomRight()) + offset;
+
+    sendPress(scene.fader, QEvent::MouseButtonPress, point, Qt::LeftButton);
+    QCOMPARE(scene.fader->isSliding(), grabs);
+    QCOMPARE(scene.parent.presses.size(), grabs ? 0 : 1);
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, point.toPoint());
+}
+
+void tst_Fader::doubleClickOnHandleGrabs()
+{
+    Scene scene(Qt::Vertical);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    const QPoint center = sliderHandleRect(*scene.fader).center();
+    QSignalSpy sliding(scene.fader, &Fader::slidingChanged);
+
+    sendPress(scene.fader, QEvent::MouseButtonDblClick, center, Qt::LeftButton);
+    QVERIFY(scene.fader->isSliding());
+    QCOMPARE(sliding.count(), 1);
+    moveHeld(scene.fader, center + QPoint(0, -20));
+    moveHeld(scene.fader, center + QPoint(0, -40));
+    QCOMPARE(scene.fader->value(), 54);
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, center + QPoint(0, -40));
+
+    // A double click beside the handle goes to the parent like a press.
+    const QPoint groove(center.x(), sliderHandleRect(*scene.fader).bottom() + 30);
+    sendPress(scene.fader, QEvent::MouseButtonDblClick, groove, Qt::LeftButton);
+    QVERIFY(!scene.fader->isSliding());
+    QCOMPARE(scene.parent.presses.size(), 1);
+}
+
+using Path = QVector<QPoint>;
+using Values = QVector<int>;
+
+void tst_Fader::dragPath_data()
+{
+    QTest::addColumn<Qt::Orientation>("orientation");
+    QTest::addColumn<int>("minimum");
+    QTest::addColumn<int>("start");
+    QTest::addColumn<Path>("path");       // offsets from the grab point
+    QTest::addColumn<Values>("values");   // the value after each move
+    QTest::addColumn<QStringList>("modes"); // "class" after each move ("" when absent)
+    QTest::addColumn<int>("singleStep");  // after the release
+
+    const QString none;
+    const QString fine = QStringLiteral("fine");
+    const QString coarse = QStringLiteral("coarse");
+
+    QTest::newRow("vertical up 30 in fine mode")
+        << Qt::Vertical << 0 << 50 << Path{{0, -5}, {0, -10}, {0, -11}, {0, -20}, {0, -30}}
+        << Values{50, 50, 50, 52, 53} << QStringList{none, none, fine, fine, fine} << 10;
+    QTest::newRow("vertical down and back up in fine mode")
+        << Qt::Vertical << 0 << 50 << Path{{0, 11}, {0, 25}, {0, 9}, {0, -25}}
+        << Values{50, 48, 50, 52} << QStringList{fine, fine, fine, fine} << 10;
+    QTest::newRow("the deciding move changes no value")
+        << Qt::Vertical << 0 << 50 << Path{{0, -30}, {0, -30}, {0, -31}}
+        << Values{50, 53, 53} << QStringList{fine, fine, fine} << 10;
+    QTest::newRow("fine mode stays when moving across later")
+        << Qt::Vertical << 0 << 50 << Path{{0, -12}, {40, -12}, {-40, -35}}
+        << Values{50, 51, 53} << QStringList{fine, fine, fine} << 10;
+    QTest::newRow("vertical 12 sideways then 100 up in coarse mode")
+        << Qt::Vertical << 0 << 50 << Path{{12, 0}, {12, -100}}
+        << Values{50, 70} << QStringList{coarse, coarse} << 5;
+    QTest::newRow("coarse truncates toward zero to tens")
+        << Qt::Vertical << 0 << 50 << Path{{-12, 0}, {-12, -99}, {-12, -49}, {-12, -50}}
+        << Values{50, 60, 50, 60} << QStringList{coarse, coarse, coarse, coarse} << 5;
+    QTest::newRow("coarse downwards")
+        << Qt::Vertical << 0 << 50 << Path{{-12, 0}, {-12, 37}}
+        << Values{50, 40} << QStringList{coarse, coarse} << 5;
+    QTest::newRow("coarse negative result truncates toward zero")
+        << Qt::Vertical << -100 << 3 << Path{{12, 0}, {12, 100}}
+        << Values{3, -10} << QStringList{coarse, coarse} << 5;
+    QTest::newRow("coarse mode stays when moving along later")
+        << Qt::Vertical << 0 << 50 << Path{{11, 3}, {11, -60}}
+        << Values{50, 60} << QStringList{coarse, coarse} << 5;
+    QTest::newRow("diagonal: along is checked first")
+        << Qt::Vertical << 0 << 50 << Path{{11, -11}, {11, -21}}
+        << Values{50, 52} << QStringList{fine, fine} << 10;
+    QTest::newRow("ten pixels either way decide nothing")
+        << Qt::Vertical << 0 << 50 << Path{{10, -10}, {-10, 10}}
+        << Values{50, 50} << QStringList{none, none} << 1;
+    QTest::newRow("clamped at the maximum")
+        << Qt::Vertical << 0 << 95 << Path{{0, -11}, {0, -200}}
+        << Values{95, 100} << QStringList{fine, fine} << 10;
+    QTest::newRow("horizontal right raises in fine mode")
+        << Qt::Horizontal << 0 << 50 << Path{{11, 0}, {30, 0}, {-30, 0}}
+        << Values{50, 53, 47} << QStringList{fine, fine, fine} << 10;
+    QTest::newRow("horizontal across first is coarse")
+        << Qt::Horizontal << 0 << 50 << Path{{0, 12}, {100, 12}, {-100, -12}}
+        << Values{50, 70, 30} << QStringList{coarse, coarse, coarse} << 5;
+}
+
+void tst_Fader::dragPath()
+{
+    QFETCH(Qt::Orientation, orientation);
+    QFETCH(int, minimum);
+    QFETCH(int, start);
+    QFETCH(Path, path);
+    QFETCH(Values, values);
+    QFETCH(QStringList, modes);
+    QFETCH(int, singleStep);
+
+    Scene scene(orientation, minimum, 100, start);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    QSignalSpy sliding(scene.fader, &Fader::slidingChanged);
+    const QPoint grab = sliderHandleRect(*scene.fader).center();
+
+    QTest::mousePress(scene.fader, Qt::LeftButton, {}, grab);
+    QVERIFY(scene.fader->isSliding());
+    for (int i = 0; i < path.size(); ++i) {
+        moveHeld(scene.fader, grab + path.at(i));
+        QVERIFY2(scene.fader->value() == values.at(i),
+                 qPrintable(QStringLiteral("move %1: value %2, expected %3")
+                                .arg(i).arg(scene.fader->value()).arg(values.at(i))));
+        const QVariant mode = scene.fader->property("class");
+        if (modes.at(i).isEmpty())
+            QCOMPARE(mode, noClass());
+        else
+            QCOMPARE(mode.toString(), modes.at(i));
+        QVERIFY(scene.fader->isSliding());
+    }
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, grab + path.last());
+
+    QCOMPARE(scene.fader->value(), values.last());
+    QCOMPARE(scene.fader->property("class"), noClass());
+    QCOMPARE(scene.fader->singleStep(), singleStep);
+    QVERIFY(!scene.fader->isSliding());
+    QCOMPARE(sliding.count(), 2);
+    QCOMPARE(sliding.at(0).at(0).toBool(), true);
+    QCOMPARE(sliding.at(1).at(0).toBool(), false);
+    QVERIFY(scene.parent.presses.isEmpty());
+}
+
+void tst_Fader::singleStepKeptAfterDrag()
+{
+    Scene scene(Qt::Vertical);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+
+    auto drag = [&](const QPoint &to) {
+        const QPoint grab = sliderHandleRect(*scene.fader).center();
+        QTest::mousePress(scene.fader, Qt::LeftButton, {}, grab);
+        moveHeld(scene.fader, grab + to);
+        QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, grab + to);
+    };
+
+    drag({0, -15});
+    QCOMPARE(scene.fader->singleStep(), 10);
+    drag({15, 0});
+    QCOMPARE(scene.fader->singleStep(), 5);
+    // A grab that decides no mode leaves the step of the last drag.
+    drag({3, -3});
+    QCOMPARE(scene.fader->singleStep(), 5);
+    drag({0, 15});
+    QCOMPARE(scene.fader->singleStep(), 10);
+
+    // The kept step is the step of keyboard and programmatic single steps too.
+    const int before = scene.fader->value();
+    scene.fader->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+    QCOMPARE(scene.fader->value(), before + 10);
+}
+
+void tst_Fader::releaseWithoutGrabSignals()
+{
+    Scene scene(Qt::Vertical);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    QSignalSpy sliding(scene.fader, &Fader::slidingChanged);
+
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, QPoint(8, 5));
+    QCOMPARE(sliding.count(), 1);
+    QCOMPARE(sliding.at(0).at(0).toBool(), false);
+    QVERIFY(!scene.fader->isSliding());
+
+    // Also after a press that went to the parent.
+    QTest::mousePress(scene.fader, Qt::LeftButton, {}, QPoint(8, 5));
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, QPoint(8, 5));
+    QCOMPARE(sliding.count(), 2);
+    QCOMPARE(sliding.at(1).at(0).toBool(), false);
+}
+
+void tst_Fader::anyButtonReleaseEndsTheGrab()
+{
+    Scene scene(Qt::Vertical);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    QSignalSpy sliding(scene.fader, &Fader::slidingChanged);
+    const QPoint grab = sliderHandleRect(*scene.fader).center();
+
+    QTest::mousePress(scene.fader, Qt::LeftButton, {}, grab);
+    moveHeld(scene.fader, grab + QPoint(0, -20));
+    QCOMPARE(scene.fader->property("class").toString(), QStringLiteral("fine"));
+    QTest::mousePress(scene.fader, Qt::RightButton, {}, grab + QPoint(0, -20));
+    QTest::mouseRelease(scene.fader, Qt::RightButton, {}, grab + QPoint(0, -20));
+    QVERIFY(!scene.fader->isSliding());
+    QCOMPARE(scene.fader->property("class"), noClass());
+    QCOMPARE(sliding.count(), 2);
+    QCOMPARE(sliding.at(1).at(0).toBool(), false);
+
+    // Moves after the grab ended change nothing.
+    const int value = scene.fader->value();
+    moveHeld(scene.fader, grab + QPoint(0, -80));
+    QCOMPARE(scene.fader->value(), value);
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, grab + QPoint(0, -80));
+    QCOMPARE(sliding.count(), 3);
+}
+
+void tst_Fader::wheelNeverMovesTheFader_data()
+{
+    QTest::addColumn<int>("angle");
+    QTest::newRow("wheel up") << 120;
+    QTest::newRow("wheel down") << -120;
+}
+
+void tst_Fader::wheelNeverMovesTheFader()
+{
+    QFETCH(int, angle);
+
+    Scene scene(Qt::Vertical);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    QSignalSpy values(scene.fader, &QSlider::valueChanged);
+    const QPoint center = sliderHandleRect(*scene.fader).center();
+
+    // A plain slider in the same place would move.
+    auto *slider = new QSlider(Qt::Vertical, &scene.parent);
+    slider->setRange(0, 100);
+    slider->setValue(50);
+    slider->setGeometry(100, 50, 17, 200);
+    slider->show();
+    sendWheel(slider, slider->rect().center(), angle);
+    QVERIFY(slider->value() != 50);
+    QCOMPARE(scene.parent.wheels, 0);
+
+    sendWheel(scene.fader, center, angle);
+    QCOMPARE(scene.fader->value(), 50);
+    QCOMPARE(values.count(), 0);
+    // The wheel goes on to the parent, as for any widget that does not use it.
+    QCOMPARE(scene.parent.wheels, 1);
+
+    // Also while the handle is held.
+    QTest::mousePress(scene.fader, Qt::LeftButton, {}, center);
+    sendWheel(scene.fader, center, angle);
+    QCOMPARE(scene.fader->value(), 50);
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, center);
+}
+
+void tst_Fader::disabledFaderIsInert()
+{
+    Scene scene(Qt::Vertical);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    scene.fader->setEnabled(false);
+    QSignalSpy sliding(scene.fader, &Fader::slidingChanged);
+    QSignalSpy values(scene.fader, &QSlider::valueChanged);
+    const QPoint grab = sliderHandleRect(*scene.fader).center();
+
+    QTest::mousePress(scene.fader, Qt::LeftButton, {}, grab);
+    QVERIFY(!scene.fader->isSliding());
+    moveHeld(scene.fader, grab + QPoint(0, -11));
+    moveHeld(scene.fader, grab + QPoint(0, -60));
+    QCOMPARE(scene.fader->property("class"), noClass());
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, grab + QPoint(0, -60));
+    sendWheel(scene.fader, grab, 120);
+
+    QCOMPARE(sliding.count(), 0);
+    QCOMPARE(values.count(), 0);
+    QCOMPARE(scene.fader->value(), 50);
+    QCOMPARE(scene.fader->singleStep(), 1);
+
+    // Enabled again, it works as before.
+    scene.fader->setEnabled(true);
+    QTest::mousePress(scene.fader, Qt::LeftButton, {}, grab);
+    moveHeld(scene.fader, grab + QPoint(0, -11));
+    moveHeld(scene.fader, grab + QPoint(0, -20));
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, grab + QPoint(0, -20));
+    QCOMPARE(scene.fader->value(), 52);
+    QCOMPARE(sliding.count(), 2);
+}
+
+void tst_Fader::modeChangeRepaintsAtOnce()
+{
+    Scene scene(Qt::Vertical);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    PaintCounter counter;
+    scene.fader->installEventFilter(&counter);
+    const QPoint grab = sliderHandleRect(*scene.fader).center();
+
+    QTest::mousePress(scene.fader, Qt::LeftButton, {}, grab);
+    QCoreApplication::processEvents();
+    int paints = counter.paints;
+    moveHeld(scene.fader, grab + QPoint(0, -5));
+    QCOMPARE(counter.paints, paints);
+    // No event processing in between: the mode change paints by itself.
+    moveHeld(scene.fader, grab + QPoint(0, -11));
+    QVERIFY(counter.paints > paints);
+
+    QCoreApplication::processEvents();
+    paints = counter.paints;
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, grab + QPoint(0, -11));
+    QVERIFY(counter.paints > paints);
+}
+
+void tst_Fader::modeLookFollowsStyleSheet()
+{
+    const QString sheet = readStyleSheet();
+    QVERIFY(sheet.contains(QLatin1String("ko--qtToolkit--widget--Fader[class=fine]")));
+
+    Parent parent;
+    parent.setStyleSheet(sheet);
+    parent.resize(200, 300);
+    auto *fader = new Fader(&parent);
+    fader->setRange(0, 100);
+    fader->setValue(50);
+    fader->setGeometry(50, 50, 17, 200);
+    parent.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&parent));
+
+    const QColor fineHandle(0x333333);
+    const QColor coarseHandle(0x7a7a7a);
+    auto handleColor = [&] {
+        const QRect handle = sliderHandleRect(*fader);
+        return ko::qtToolkit::test::rgbAt(fader->grab().toImage(), handle.center().x(), handle.center().y());
+    };
+    const QColor idle = handleColor();
+    QVERIFY(idle != fineHandle);
+    QVERIFY(idle != coarseHandle);
+
+    QPoint grab = sliderHandleRect(*fader).center();
+    QTest::mousePress(fader, Qt::LeftButton, {}, grab);
+    QCOMPARE(handleColor(), idle);
+    moveHeld(fader, grab + QPoint(0, -12));
+    QCOMPARE(handleColor(), fineHandle);
+    moveHeld(fader, grab + QPoint(0, -40));
+    QCOMPARE(fader->value(), 54);
+    QCOMPARE(handleColor(), fineHandle);
+    QTest::mouseRelease(fader, Qt::LeftButton, {}, grab + QPoint(0, -40));
+    QCOMPARE(handleColor(), idle);
+
+    grab = sliderHandleRect(*fader).center();
+    QTest::mousePress(fader, Qt::LeftButton, {}, grab);
+    moveHeld(fader, grab + QPoint(12, 0));
+    QCOMPARE(handleColor(), coarseHandle);
+    QTest::mouseRelease(fader, Qt::LeftButton, {}, grab + QPoint(12, 0));
+    QCOMPARE(handleColor(), idle);
+}
+
+QTEST_MAIN(tst_Fader)
+#include "tst_Fader.moc"

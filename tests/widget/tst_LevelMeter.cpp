@@ -1,0 +1,669 @@
+#include <ko/qtToolkit/widget/LevelMeter.h>
+
+#include <TestSupport.h>
+
+#include <QMetaProperty>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <cmath>
+
+using ko::qtToolkit::test::artifactPath;
+using ko::qtToolkit::widget::LevelMeter;
+
+namespace {
+
+const QColor background(0xbbbbbb);
+const QColor low(0x008000);
+const QColor medium(0xfa6500);
+const QColor high(0xc82300);
+const QColor frame(0x575757);
+const QColor red(0xff0000);
+
+// Counts the paint events of the watched widget.
+class PaintCounter : public QObject
+{
+public:
+    int paints = 0;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            ++paints;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+// The meter as it paints itself, on black so that any pixel it leaves out shows.
+QImage paint(LevelMeter &meter, const QString &name)
+{
+    QImage image(meter.size(), QImage::Format_RGB32);
+    image.fill(Qt::black);
+    meter.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+    image.save(artifactPath(QStringLiteral("LevelMeter-%1.png").arg(name)));
+    return image;
+}
+
+QColor at(const QImage &image, int x, int y)
+{
+    return image.pixelColor(x, y);
+}
+
+// What a colour looks like under the muted or disabled wash of half-transparent white.
+QColor washed(const QColor &color)
+{
+    auto mix = [](int c) { return (c * 127 + 255 * 128 + 127) / 255; };
+    return QColor(mix(color.red()), mix(color.green()), mix(color.blue()));
+}
+
+bool near(const QColor &a, const QColor &b)
+{
+    return std::abs(a.red() - b.red()) <= 2 && std::abs(a.green() - b.green()) <= 2
+        && std::abs(a.blue() - b.blue()) <= 2;
+}
+
+QString describe(const QColor &color)
+{
+    return color.name();
+}
+
+// A vertical meter of 20 by 200 pixels with the default ranges.
+void makeVertical(LevelMeter &meter, const QSize &size = QSize(20, 200))
+{
+    meter.setOrientation(Qt::Vertical);
+    meter.resize(size);
+    meter.show();
+}
+
+// The run of colours down the middle column of the inner rectangle: (colour, first row) pairs.
+QVector<QPair<QColor, int>> bandsDown(const QImage &image)
+{
+    QVector<QPair<QColor, int>> bands;
+    const int x = image.width() / 2;
+    for (int y = 1; y < image.height() - 1; ++y) {
+        const QColor color = at(image, x, y);
+        if (bands.isEmpty() || bands.last().first != color)
+            bands.append({color, y});
+    }
+    return bands;
+}
+
+// The run of colours along the middle row of the inner rectangle, from the left.
+QVector<QPair<QColor, int>> bandsAcross(const QImage &image)
+{
+    QVector<QPair<QColor, int>> bands;
+    const int y = image.height() / 2;
+    for (int x = 1; x < image.width() - 1; ++x) {
+        const QColor color = at(image, x, y);
+        if (bands.isEmpty() || bands.last().first != color)
+            bands.append({color, x});
+    }
+    return bands;
+}
+
+// The row of a vertical meter of height h where the gradient reaches \a fraction: position 0 is
+// at row h - 1 and position 1 at row 1.
+double rowOf(double fraction, int h)
+{
+    return (h - 1) - fraction * (h - 2);
+}
+
+} // namespace
+
+class tst_LevelMeter : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void defaults();
+    void properties();
+    void setLevel_data();
+    void setLevel();
+    void setLevelFollowsTheProgressBarRange();
+    void mappings();
+    void mapValueToPixelsUsesTheFullExtent_data();
+    void mapValueToPixelsUsesTheFullExtent();
+    void setLevelRange();
+    void setMinimumAndMaximumLevel_data();
+    void setMinimumAndMaximumLevel();
+    void thresholds_data();
+    void thresholds();
+    void repaintsOnlyWhenTheValueChanges();
+    void threeBandsWithHardEdges();
+    void unlitPartInBackgroundColor_data();
+    void unlitPartInBackgroundColor();
+    void onePixelFrame();
+    void mutedIsWashedOutWithRedDoubleFrame();
+    void disabledIsWashedOutWithGreyFrame();
+    void horizontalGradientIsMirrored();
+    void colourSetters();
+    void gradientFollowsResizeAndThresholdsNotRange();
+};
+
+void tst_LevelMeter::defaults()
+{
+    LevelMeter meter;
+    QCOMPARE(meter.level(), -60.0f);
+    QCOMPARE(meter.minimumLevel(), -60.0f);
+    QCOMPARE(meter.maximumLevel(), 15.0f);
+    QCOMPARE(meter.mediumThresholdLevel(), -20.0f);
+    QCOMPARE(meter.highThresholdLevel(), 10.0f);
+    QCOMPARE(meter.isMuted(), false);
+    // The progress bar keeps QProgressBar's own range and value.
+    const QProgressBar plain;
+    QCOMPARE(meter.minimum(), plain.minimum());
+    QCOMPARE(meter.maximum(), plain.maximum());
+    QCOMPARE(meter.value(), plain.value());
+    QCOMPARE(meter.orientation(), plain.orientation());
+}
+
+void tst_LevelMeter::properties()
+{
+    const QMetaObject &meta = LevelMeter::staticMetaObject;
+    // No signals of its own.
+    QCOMPARE(meta.methodCount(), QProgressBar::staticMetaObject.methodCount());
+
+    const QVector<QByteArray> floats{"minimumLevel", "maximumLevel", "mediumThresholdLevel", "highThresholdLevel",
+                                     "level"};
+    for (const QByteArray &name : floats) {
+        const int index = meta.indexOfProperty(name.constData());
+        QVERIFY2(index >= meta.propertyOffset(), name.constData());
+        QCOMPARE(meta.property(index).userType(), int(QMetaType::Float));
+        QVERIFY(meta.property(index).isWritable());
+    }
+    const int muted = meta.indexOfProperty("isMuted");
+    QVERIFY(muted >= meta.propertyOffset());
+    QCOMPARE(meta.property(muted).userType(), int(QMetaType::Bool));
+
+    LevelMeter meter;
+    QVERIFY(meter.setProperty("maximumLevel", 20.0f));
+    QVERIFY(meter.setProperty("minimumLevel", -80.0f));
+    QVERIFY(meter.setProperty("highThresholdLevel", 5.0f));
+    QVERIFY(meter.setProperty("mediumThresholdLevel", -30.0f));
+    QVERIFY(meter.setProperty("level", 0.0f));
+    QVERIFY(meter.setProperty("isMuted", true));
+    QCOMPARE(meter.maximumLevel(), 20.0f);
+    QCOMPARE(meter.minimumLevel(), -80.0f);
+    QCOMPARE(meter.highThresholdLevel(), 5.0f);
+    QCOMPARE(meter.mediumThresholdLevel(), -30.0f);
+    QCOMPARE(meter.level(), 0.0f);
+    QVERIFY(meter.isMuted());
+    QCOMPARE(meter.property("level").value<float>(), 0.0f);
+    QCOMPARE(meter.property("isMuted").toBool(), true);
+}
+
+void tst_LevelMeter::setLevel_data()
+{
+    QTest::addColumn<float>("input");
+    QTest::addColumn<float>("level");
+    QTest::addColumn<int>("value");
+
+    QTest::newRow("medium threshold maps to 53") << -20.0f << -20.0f << 53;
+    QTest::newRow("above the maximum clamps to 15") << 100.0f << 15.0f << 100;
+    QTest::newRow("below the minimum clamps to -60") << -100.0f << -60.0f << 0;
+    QTest::newRow("maximum") << 15.0f << 15.0f << 100;
+    QTest::newRow("minimum") << -60.0f << -60.0f << 0;
+    QTest::newRow("fractions truncate") << -59.0f << -59.0f << 1;
+    QTest::newRow("zero") << 0.0f << 0.0f << 80;
+}
+
+void tst_LevelMeter::setLevel()
+{
+    QFETCH(float, input);
+    QFETCH(float, level);
+    QFETCH(int, value);
+
+    LevelMeter meter;
+    QSignalSpy values(&meter, &QProgressBar::valueChanged);
+    meter.setLevel(input);
+    QCOMPARE(meter.level(), level);
+    QCOMPARE(meter.value(), value);
+    QCOMPARE(values.count(), 1);
+    QCOMPARE(values.at(0).at(0).toInt(), value);
+}
+
+void tst_LevelMeter::setLevelFollowsTheProgressBarRange()
+{
+    LevelMeter meter;
+    meter.setRange(-1000, 1000);
+    meter.setLevel(-20.0f);
+    QCOMPARE(meter.value(), 66); // truncate(2000 * 40 / 75 - 1000)
+    meter.setLevel(15.0f);
+    QCOMPARE(meter.value(), 1000);
+    meter.setLevel(-60.0f);
+    QCOMPARE(meter.value(), -1000);
+    QCOMPARE(meter.mapValueToPercentage(0), 0.5f);
+}
+
+void tst_LevelMeter::mappings()
+{
+    LevelMeter meter;
+    QCOMPARE(meter.clampLevel(-100.0f), -60.0f);
+    QCOMPARE(meter.clampLevel(100.0f), 15.0f);
+    QCOMPARE(meter.clampLevel(-3.5f), -3.5f);
+
+    // Fractions, not percentages.
+    QCOMPARE(meter.mapLevelToPercentage(15.0f), 1.0f);
+    QCOMPARE(meter.mapLevelToPercentage(-60.0f), 0.0f);
+    QCOMPARE(meter.mapLevelToPercentage(-22.5f), 0.5f);
+    QCOMPARE(meter.mapValueToPercentage(50), 0.5f);
+    QCOMPARE(meter.mapValueToPercentage(100), 1.0f);
+
+    // mapLevelToValue does not clamp.
+    QCOMPARE(meter.mapLevelToValue(-20.0f), 53);
+    QCOMPARE(meter.mapLevelToValue(100.0f), 213);
+    QCOMPARE(meter.mapLevelToValue(-100.0f), -53);
+    QCOMPARE(meter.value(), -1);
+
+    meter.setRange(0, 200);
+    QCOMPARE(meter.mapValueToPercentage(50), 0.25f);
+    QCOMPARE(meter.mapLevelToValue(-20.0f), 106);
+}
+
+void tst_LevelMeter::mapValueToPixelsUsesTheFullExtent_data()
+{
+    QTest::addColumn<Qt::Orientation>("orientation");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<int>("pixels");
+
+    // In single precision 53 / 100 is just below 0.53, so 200 * 0.53 truncates to 105.
+    QTest::newRow("vertical uses the height") << Qt::Vertical << QSize(20, 200) << 53 << 105;
+    QTest::newRow("horizontal uses the width") << Qt::Horizontal << QSize(300, 20) << 53 << 158;
+    QTest::newRow("vertical exact fraction") << Qt::Vertical << QSize(20, 200) << 25 << 50;
+    QTest::newRow("full") << Qt::Vertical << QSize(20, 200) << 100 << 200;
+    QTest::newRow("empty") << Qt::Vertical << QSize(20, 200) << 0 << 0;
+    QTest::newRow("truncates") << Qt::Vertical << QSize(20, 99) << 50 << 49;
+}
+
+void tst_LevelMeter::mapValueToPixelsUsesTheFullExtent()
+{
+    QFETCH(Qt::Orientation, orientation);
+    QFETCH(QSize, size);
+    QFETCH(int, value);
+    QFETCH(int, pixels);
+
+    LevelMeter meter;
+    meter.setOrientation(orientation);
+    meter.resize(size);
+    QCOMPARE(meter.mapValueToPixels(value), pixels);
+}
+
+void tst_LevelMeter::setLevelRange()
+{
+    LevelMeter meter;
+    meter.setLevel(10.0f);
+    meter.setLevelRange(10.0f, 0.0f);
+    QCOMPARE(meter.minimumLevel(), -60.0f);
+    QCOMPARE(meter.maximumLevel(), 15.0f);
+
+    // Neither the level nor the thresholds are clamped to the new range.
+    meter.setLevelRange(-40.0f, 0.0f);
+    QCOMPARE(meter.minimumLevel(), -40.0f);
+    QCOMPARE(meter.maximumLevel(), 0.0f);
+    QCOMPARE(meter.level(), 10.0f);
+    QCOMPARE(meter.highThresholdLevel(), 10.0f);
+    QCOMPARE(meter.mediumThresholdLevel(), -20.0f);
+    QCOMPARE(meter.value(), 93);
+
+    // An empty range is a range.
+    meter.setLevelRange(-5.0f, -5.0f);
+    QCOMPARE(meter.minimumLevel(), -5.0f);
+    QCOMPARE(meter.maximumLevel(), -5.0f);
+    QCOMPARE(meter.clampLevel(7.0f), -5.0f);
+}
+
+void tst_LevelMeter::setMinimumAndMaximumLevel_data()
+{
+    QTest::addColumn<bool>("setMinimum");
+    QTest::addColumn<float>("input");
+    QTest::addColumn<float>("minimum");
+    QTest::addColumn<float>("maximum");
+
+    QTest::newRow("minimum above the maximum raises it") << true << 20.0f << 20.0f << 20.0f;
+    QTest::newRow("minimum below") << true << -70.0f << -70.0f << 15.0f;
+    QTest::newRow("minimum inside") << true << 0.0f << 0.0f << 15.0f;
+    QTest::newRow("maximum below the minimum lowers it") << false << -70.0f << -70.0f << -70.0f;
+    QTest::newRow("maximum above") << false << 20.0f << -60.0f << 20.0f;
+    QTest::newRow("maximum inside") << false << 0.0f << -60.0f << 0.0f;
+}
+
+void tst_LevelMeter::setMinimumAndMaximumLevel()
+{
+    QFETCH(bool, setMinimum);
+    QFETCH(float, input);
+    QFETCH(float, minimum);
+    QFETCH(float, maximum);
+
+    LevelMeter meter;
+    meter.setLevel(-30.0f);
+    if (setMinimum)
+        meter.setMinimumLevel(input);
+    else
+        meter.setMaximumLevel(input);
+    QCOMPARE(meter.minimumLevel(), minimum);
+    QCOMPARE(meter.maximumLevel(), maximum);
+    QCOMPARE(meter.level(), -30.0f);
+    QCOMPARE(meter.mediumThresholdLevel(), -20.0f);
+    QCOMPARE(meter.highThresholdLevel(), 10.0f);
+}
+
+void tst_LevelMeter::thresholds_data()
+{
+    QTest::addColumn<bool>("setMedium");
+    QTest::addColumn<float>("input");
+    QTest::addColumn<float>("medium");
+    QTest::addColumn<float>("high");
+    QTest::addColumn<int>("refusedStops"); // gradient stops beyond 0 to 1, refused by QGradient
+
+    QTest::newRow("medium above high raises high") << true << 12.0f << 12.0f << 12.0f << 0;
+    QTest::newRow("medium below high") << true << -30.0f << -30.0f << 10.0f << 0;
+    QTest::newRow("medium clamped to the minimum") << true << -100.0f << -60.0f << 10.0f << 0;
+    QTest::newRow("medium clamped to the maximum") << true << 100.0f << 15.0f << 15.0f << 1;
+    QTest::newRow("high below medium lowers medium") << false << -30.0f << -30.0f << -30.0f << 0;
+    QTest::newRow("high above medium") << false << 0.0f << -20.0f << 0.0f << 0;
+    QTest::newRow("high clamped to the maximum") << false << 100.0f << -20.0f << 15.0f << 0;
+    QTest::newRow("high clamped to the minimum") << false << -100.0f << -60.0f << -60.0f << 1;
+}
+
+void tst_LevelMeter::thresholds()
+{
+    QFETCH(bool, setMedium);
+    QFETCH(float, input);
+    QFETCH(float, medium);
+    QFETCH(float, high);
+    QFETCH(int, refusedStops);
+
+    for (int i = 0; i < refusedStops; ++i)
+        QTest::ignoreMessage(QtWarningMsg, "QGradient::setColorAt: Color position must be specified in the range 0 to 1");
+    LevelMeter meter;
+    if (setMedium)
+        meter.setMediumThresholdLevel(input);
+    else
+        meter.setHighThresholdLevel(input);
+    QCOMPARE(meter.mediumThresholdLevel(), medium);
+    QCOMPARE(meter.highThresholdLevel(), high);
+    QCOMPARE(meter.minimumLevel(), -60.0f);
+    QCOMPARE(meter.maximumLevel(), 15.0f);
+}
+
+void tst_LevelMeter::repaintsOnlyWhenTheValueChanges()
+{
+    LevelMeter meter;
+    makeVertical(meter);
+    QVERIFY(QTest::qWaitForWindowExposed(&meter));
+    PaintCounter counter;
+    meter.installEventFilter(&counter);
+    QCoreApplication::processEvents();
+
+    int paints = counter.paints;
+    meter.setLevel(-20.0f);
+    QTRY_VERIFY(counter.paints > paints);
+
+    // -19.9 maps to the same value, 53.
+    QCoreApplication::processEvents();
+    paints = counter.paints;
+    meter.setLevel(-19.9f);
+    QCOMPARE(meter.level(), -19.9f);
+    QCOMPARE(meter.value(), 53);
+    QCoreApplication::processEvents();
+    QCOMPARE(counter.paints, paints);
+
+    // Changes of many meters are painted together: setLevel itself paints nothing.
+    meter.setLevel(0.0f);
+    QCOMPARE(counter.paints, paints);
+    QTRY_VERIFY(counter.paints > paints);
+
+    // Updates the application disabled stay disabled.
+    meter.setUpdatesEnabled(false);
+    meter.setLevel(5.0f);
+    QVERIFY(!meter.updatesEnabled());
+    QCOMPARE(meter.value(), 86);
+}
+
+void tst_LevelMeter::threeBandsWithHardEdges()
+{
+    LevelMeter meter;
+    makeVertical(meter);
+    meter.setLevel(15.0f);
+    const QImage image = paint(meter, QStringLiteral("full"));
+
+    // Every inner pixel is one of the three colours: no blend between them.
+    for (int y = 1; y < 199; ++y)
+        for (int x = 1; x < 19; ++x)
+            QVERIFY2(at(image, x, y) == low || at(image, x, y) == medium || at(image, x, y) == high,
+                     qPrintable(QStringLiteral("%1,%2 is %3").arg(x).arg(y).arg(describe(at(image, x, y)))));
+
+    const auto bands = bandsDown(image);
+    QCOMPARE(bands.size(), 3);
+    QCOMPARE(bands.at(0).first, high);
+    QCOMPARE(bands.at(1).first, medium);
+    QCOMPARE(bands.at(2).first, low);
+    QCOMPARE(bands.at(0).second, 1);
+    // The edges sit where the thresholds are: -20 at 40/75 and +10 at 70/75 of the gradient.
+    QVERIFY(std::abs(bands.at(1).second - rowOf(70.0 / 75.0, 200)) <= 1.0);
+    QVERIFY(std::abs(bands.at(2).second - rowOf(40.0 / 75.0, 200)) <= 1.0);
+}
+
+void tst_LevelMeter::unlitPartInBackgroundColor_data()
+{
+    QTest::addColumn<float>("level");
+    QTest::addColumn<int>("firstLitRow");
+
+    // The lit length is measured on the full height of 200: value 53 lights 105 rows.
+    QTest::newRow("medium threshold") << -20.0f << 199 - 105;
+    QTest::newRow("high threshold") << 10.0f << 199 - 186;
+    QTest::newRow("one step") << -59.0f << 199 - 2;
+    // Nothing lit: the whole inner rectangle is background.
+    QTest::newRow("minimum") << -60.0f << 199;
+}
+
+void tst_LevelMeter::unlitPartInBackgroundColor()
+{
+    QFETCH(float, level);
+    QFETCH(int, firstLitRow);
+
+    LevelMeter meter;
+    makeVertical(meter);
+    meter.setLevel(level);
+    const QImage image = paint(meter, QStringLiteral("unlit"));
+    for (int y = 1; y < 199; ++y) {
+        for (int x = 1; x < 19; ++x) {
+            const QColor color = at(image, x, y);
+            if (y < firstLitRow)
+                QVERIFY2(color == background, qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
+            else
+                QVERIFY2(color == low || color == medium || color == high,
+                         qPrintable(QStringLiteral("%1,%2 is %3").arg(x).arg(y).arg(describe(color))));
+        }
+    }
+}
+
+void tst_LevelMeter::onePixelFrame()
+{
+    LevelMeter meter;
+    makeVertical(meter);
+    meter.setLevel(-20.0f);
+    const QImage image = paint(meter, QStringLiteral("frame"));
+    for (int y = 0; y < 200; ++y) {
+        QCOMPARE(at(image, 0, y), frame);
+        QCOMPARE(at(image, 19, y), frame);
+    }
+    for (int x = 0; x < 20; ++x) {
+        QCOMPARE(at(image, x, 0), frame);
+        QCOMPARE(at(image, x, 199), frame);
+    }
+    // One pixel only: the next ring is the meter.
+    QCOMPARE(at(image, 1, 1), background);
+    QCOMPARE(at(image, 18, 1), background);
+    QCOMPARE(at(image, 1, 198), low);
+    QCOMPARE(at(image, 18, 198), low);
+}
+
+void tst_LevelMeter::mutedIsWashedOutWithRedDoubleFrame()
+{
+    LevelMeter meter;
+    makeVertical(meter);
+    meter.setLevel(15.0f);
+    meter.setMuted(true);
+    QVERIFY(meter.isMuted());
+    const QImage image = paint(meter, QStringLiteral("muted"));
+
+    for (int y = 0; y < 200; ++y) {
+        QCOMPARE(at(image, 0, y), red);
+        QCOMPARE(at(image, 19, y), red);
+        if (y >= 1 && y <= 198) {
+            QCOMPARE(at(image, 1, y), red);
+            QCOMPARE(at(image, 18, y), red);
+        }
+    }
+    for (int x = 1; x < 19; ++x) {
+        QCOMPARE(at(image, x, 1), red);
+        QCOMPARE(at(image, x, 198), red);
+    }
+    // Inside the double frame the three bands are washed out.
+    QVERIFY2(near(at(image, 10, 3), washed(high)), qPrintable(describe(at(image, 10, 3))));
+    QVERIFY2(near(at(image, 10, 60), washed(medium)), qPrintable(describe(at(image, 10, 60))));
+    QVERIFY2(near(at(image, 10, 190), washed(low)), qPrintable(describe(at(image, 10, 190))));
+    QVERIFY(at(image, 2, 100) != red);
+
+    // The unlit part is washed out too.
+    meter.setLevel(-20.0f);
+    const QImage partial = paint(meter, QStringLiteral("muted-partial"));
+    QVERIFY(near(at(partial, 10, 50), washed(background)));
+
+    meter.setMuted(false);
+    const QImage unmuted = paint(meter, QStringLiteral("unmuted"));
+    QCOMPARE(at(unmuted, 0, 100), frame);
+    QCOMPARE(at(unmuted, 10, 50), background);
+}
+
+void tst_LevelMeter::disabledIsWashedOutWithGreyFrame()
+{
+    LevelMeter meter;
+    makeVertical(meter);
+    meter.setLevel(15.0f);
+    meter.setEnabled(false);
+    const QImage image = paint(meter, QStringLiteral("disabled"));
+
+    for (int y = 0; y < 200; ++y) {
+        QCOMPARE(at(image, 0, y), frame);
+        QCOMPARE(at(image, 19, y), frame);
+    }
+    // A single frame: the ring inside it is the washed-out meter.
+    QVERIFY2(near(at(image, 1, 50), washed(medium)), qPrintable(describe(at(image, 1, 50))));
+    QVERIFY2(near(at(image, 10, 190), washed(low)), qPrintable(describe(at(image, 10, 190))));
+    QVERIFY2(near(at(image, 10, 3), washed(high)), qPrintable(describe(at(image, 10, 3))));
+
+    // Muted and disabled: the muted look.
+    meter.setMuted(true);
+    const QImage both = paint(meter, QStringLiteral("disabled-muted"));
+    QCOMPARE(at(both, 0, 100), red);
+    QCOMPARE(at(both, 1, 100), red);
+    QVERIFY(near(at(both, 10, 190), washed(low)));
+}
+
+void tst_LevelMeter::horizontalGradientIsMirrored()
+{
+    LevelMeter meter;
+    meter.setOrientation(Qt::Horizontal);
+    meter.resize(200, 20);
+    meter.show();
+    meter.setLevel(15.0f);
+    const QImage full = paint(meter, QStringLiteral("horizontal-full"));
+
+    // The high colour at the left, where the bar starts; the low colour at the right end.
+    const auto bands = bandsAcross(full);
+    QCOMPARE(bands.size(), 3);
+    QCOMPARE(bands.at(0).first, high);
+    QCOMPARE(bands.at(1).first, medium);
+    QCOMPARE(bands.at(2).first, low);
+    // Position 0 at x = 199 and position 1 at x = 1: the same rows as a vertical meter's.
+    QVERIFY(std::abs(bands.at(1).second - rowOf(70.0 / 75.0, 200)) <= 1.0);
+    QVERIFY(std::abs(bands.at(2).second - rowOf(40.0 / 75.0, 200)) <= 1.0);
+
+    // The bar grows from the left: a low level lights the high colour.
+    meter.setLevel(-55.0f);
+    QCOMPARE(meter.value(), 6);
+    const QImage partial = paint(meter, QStringLiteral("horizontal-low"));
+    const auto partialBands = bandsAcross(partial);
+    QCOMPARE(partialBands.size(), 2);
+    QCOMPARE(partialBands.at(0).first, high);
+    QCOMPARE(partialBands.at(0).second, 1);
+    QCOMPARE(partialBands.at(1).first, background);
+    QCOMPARE(partialBands.at(1).second, 1 + 12);
+    QCOMPARE(at(partial, 0, 10), frame);
+    QCOMPARE(at(partial, 199, 10), frame);
+}
+
+void tst_LevelMeter::colourSetters()
+{
+    LevelMeter meter;
+    makeVertical(meter);
+    meter.setLevel(-20.0f);
+    const QColor newLow(0x0000ff);
+    const QColor newMedium(0x00ffff);
+    const QColor newHigh(0xffff00);
+    const QColor newBackground(0x202020);
+    meter.setLowColor(newLow);
+    meter.setMediumColor(newMedium);
+    meter.setHighColor(newHigh);
+    meter.setBackgroundColor(newBackground);
+    meter.setLevel(15.0f);
+    QImage image = paint(meter, QStringLiteral("colours"));
+    const auto bands = bandsDown(image);
+    QCOMPARE(bands.size(), 3);
+    QCOMPARE(bands.at(0).first, newHigh);
+    QCOMPARE(bands.at(1).first, newMedium);
+    QCOMPARE(bands.at(2).first, newLow);
+    QCOMPARE(at(image, 0, 0), frame);
+
+    meter.setLevel(-60.0f);
+    image = paint(meter, QStringLiteral("colours-background"));
+    QCOMPARE(at(image, 10, 100), newBackground);
+}
+
+void tst_LevelMeter::gradientFollowsResizeAndThresholdsNotRange()
+{
+    LevelMeter meter;
+    makeVertical(meter);
+    meter.setLevel(15.0f);
+    const auto before = bandsDown(paint(meter, QStringLiteral("range-before")));
+    QCOMPARE(before.size(), 3);
+
+    // A new range alone leaves the zones where they were.
+    meter.setLevelRange(-100.0f, 15.0f);
+    meter.setLevel(15.0f);
+    QCOMPARE(bandsDown(paint(meter, QStringLiteral("range-changed"))), before);
+
+    // Setting a threshold, even to its value, rebuilds them for the new range.
+    meter.setMediumThresholdLevel(-20.0f);
+    const auto rebuilt = bandsDown(paint(meter, QStringLiteral("range-rebuilt")));
+    QCOMPARE(rebuilt.size(), 3);
+    QVERIFY(std::abs(rebuilt.at(1).second - rowOf(110.0 / 115.0, 200)) <= 1.0);
+    QVERIFY(std::abs(rebuilt.at(2).second - rowOf(80.0 / 115.0, 200)) <= 1.0);
+
+    // A threshold at the minimum leaves no low zone.
+    meter.setMediumThresholdLevel(-100.0f);
+    const auto noLow = bandsDown(paint(meter, QStringLiteral("no-low")));
+    QCOMPARE(noLow.size(), 2);
+    QCOMPARE(noLow.at(0).first, high);
+    QCOMPARE(noLow.at(1).first, medium);
+
+    // A resize rebuilds the zones for the new height.
+    LevelMeter other;
+    makeVertical(other, QSize(20, 100));
+    other.setLevel(15.0f);
+    const auto small = bandsDown(paint(other, QStringLiteral("small")));
+    QCOMPARE(small.size(), 3);
+    QVERIFY(std::abs(small.at(2).second - rowOf(40.0 / 75.0, 100)) <= 1.0);
+    other.resize(20, 300);
+    const auto tall = bandsDown(paint(other, QStringLiteral("tall")));
+    QCOMPARE(tall.size(), 3);
+    QVERIFY(std::abs(tall.at(1).second - rowOf(70.0 / 75.0, 300)) <= 1.0);
+    QVERIFY(std::abs(tall.at(2).second - rowOf(40.0 / 75.0, 300)) <= 1.0);
+}
+
+QTEST_MAIN(tst_LevelMeter)
+#include "tst_LevelMeter.moc"
