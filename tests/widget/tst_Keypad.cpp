@@ -5,6 +5,7 @@
 #include <ko/qtToolkit/widget/Keypad.h>
 #include <ko/qtToolkit/widget/TextEntry.h>
 
+#include <KeypadSupport.h>
 #include <TestSupport.h>
 
 #include <QGridLayout>
@@ -14,6 +15,7 @@
 
 #include <memory>
 
+using ko::qtToolkit::test::keypadButton;
 using ko::qtToolkit::widget::Button;
 using ko::qtToolkit::widget::GenericDataFader;
 using ko::qtToolkit::widget::Keypad;
@@ -29,16 +31,6 @@ QLineEdit *display(const Keypad &keypad)
 GenericDataFader *fader(const Keypad &keypad)
 {
     return keypad.findChild<GenericDataFader *>();
-}
-
-QPushButton *button(const Keypad &keypad, const QString &label)
-{
-    const QList<QPushButton *> buttons = keypad.findChildren<QPushButton *>();
-    for (QPushButton *candidate : buttons) {
-        if (candidate->text() == label)
-            return candidate;
-    }
-    return nullptr;
 }
 
 // The name of a key in the tables below: a button label, or a key a keyboard has but the
@@ -97,7 +89,7 @@ QStringList press(Keypad &keypad, const QStringList &names, Input input)
             continue;
         }
         if (input == Input::Buttons && k->label) {
-            QPushButton *b = button(keypad, QLatin1String(k->label));
+            QPushButton *b = keypadButton(keypad, QLatin1String(k->label));
             if (!b) {
                 texts << QStringLiteral("no button %1").arg(name);
                 continue;
@@ -196,7 +188,7 @@ private Q_SLOTS:
         QFETCH(int, rowSpan);
 
         Keypad keypad;
-        QPushButton *b = button(keypad, label);
+        QPushButton *b = keypadButton(keypad, label);
         QVERIFY(b);
         QVERIFY(dynamic_cast<Button *>(b));
         QCOMPARE(b->focusPolicy(), Qt::NoFocus);

@@ -6,19 +6,18 @@
 #include <ko/qtToolkit/widget/Keypad.h>
 #include <ko/qtToolkit/widget/TextEntry.h>
 
+#include <KeypadSupport.h>
 #include <TestSupport.h>
 
 #include <QHBoxLayout>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTimer>
 #include <QVBoxLayout>
 
-#include <functional>
-
 using ko::qtToolkit::common::DoubleValidator;
+using ko::qtToolkit::test::KeypadDriver;
+using ko::qtToolkit::test::sharedKeypadDialog;
 using ko::qtToolkit::widget::TextEntry;
 namespace dialog = ko::qtToolkit::dialog;
 namespace singleton = ko::qtToolkit::singleton;
@@ -79,81 +78,6 @@ protected:
     }
 };
 
-// The application's keypad dialog, made by singleton::Keypad.
-dialog::Keypad *keypadDialog()
-{
-    singleton::Keypad::instance();
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        if (auto *keypad = qobject_cast<dialog::Keypad *>(window))
-            return keypad;
-    }
-    return nullptr;
-}
-
-QPushButton *keypadButton(const dialog::Keypad &dialog, const QString &label)
-{
-    const QList<QPushButton *> buttons = dialog.findChild<widget::Keypad *>()->findChildren<QPushButton *>();
-    for (QPushButton *button : buttons) {
-        if (button->text() == label)
-            return button;
-    }
-    return nullptr;
-}
-
-QPushButton *closeButton(const dialog::Keypad &dialog)
-{
-    const QList<QPushButton *> buttons = dialog.findChildren<QPushButton *>(QString(), Qt::FindDirectChildrenOnly);
-    for (QPushButton *button : buttons) {
-        if (button->property("class").toString() == QLatin1String("close"))
-            return button;
-    }
-    return nullptr;
-}
-
-// Plays the user at the keypad: each time the dialog opens, the next script runs inside its
-// exec() once the dialog is the active window. A dialog left open by a script, or opened
-// without one, is rejected, so that a failing test cannot hang.
-class KeypadDriver : public QObject
-{
-public:
-    using Script = std::function<void(dialog::Keypad &)>;
-
-    KeypadDriver()
-        : m_dialog(keypadDialog())
-    {
-        m_dialog->installEventFilter(this);
-    }
-
-    void then(Script script) { m_scripts.append(std::move(script)); }
-
-    int openings = 0;
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (watched == m_dialog && event->type() == QEvent::Show) {
-            ++openings;
-            QTimer::singleShot(0, this, [this] { play(); });
-        }
-        return false;
-    }
-
-private:
-    void play()
-    {
-        if (!QTest::qWaitForWindowActive(m_dialog))
-            qWarning("the keypad did not become the active window");
-        if (!m_scripts.isEmpty())
-            m_scripts.takeFirst()(*m_dialog);
-        if (m_dialog->isVisible())
-            m_dialog->reject();
-    }
-
-    dialog::Keypad *const m_dialog;
-    QList<Script> m_scripts;
-};
-
 // What the entry and the keypad showed during a keypad session.
 struct Session
 {
@@ -172,17 +96,13 @@ KeypadDriver::Script typeOnKeypad(Session &session, const TextEntry &entry, cons
         session.keypadText = dialog.text();
         session.faderShown = dialog.findChild<widget::GenericDataFader *>()->isVisible();
         for (const QString &label : labels) {
-            QPushButton *button = keypadButton(dialog, label);
-            if (!button)
+            if (!ko::qtToolkit::test::clickKeypad(dialog, label))
                 return;
-            QTest::mouseClick(button, Qt::LeftButton);
             session.displays << dialog.text();
             session.entryTexts << entry.text();
             session.entryShows << lineEdit(entry)->text();
         }
-        QPushButton *button = finish == QLatin1String("close") ? closeButton(dialog) : keypadButton(dialog, finish);
-        if (button)
-            QTest::mouseClick(button, Qt::LeftButton);
+        ko::qtToolkit::test::clickKeypad(dialog, finish);
     };
 }
 
@@ -484,7 +404,7 @@ private Q_SLOTS:
         }
         entry.setText(QStringLiteral("1.00"));
         QVERIFY(window.activate());
-        KeypadDriver keypad;
+        KeypadDriver keypad(*sharedKeypadDialog());
         QSignalSpy spy(&entry, &TextEntry::textChanged);
 
         QLineEdit *line = lineEdit(entry);
@@ -664,7 +584,7 @@ private Q_SLOTS:
         window.entry->setValidator(nullptr);
         window.entry->setText(QStringLiteral("abc"));
         QVERIFY(window.activate());
-        KeypadDriver keypad;
+        KeypadDriver keypad(*sharedKeypadDialog());
 
         QLineEdit *line = lineEdit(*window.entry);
         QTest::mouseClick(line, Qt::LeftButton);
@@ -716,7 +636,7 @@ private Q_SLOTS:
         entry.setText(QStringLiteral("12.5"));
         QVERIFY(window.activate());
 
-        KeypadDriver keypad;
+        KeypadDriver keypad(*sharedKeypadDialog());
         Session session;
         keypad.then(typeOnKeypad(session, entry, split("2 5 0"), QStringLiteral("OK")));
         QSignalSpy spy(&entry, &TextEntry::textChanged);
@@ -776,11 +696,11 @@ private Q_SLOTS:
         entry.setText(QStringLiteral("12.5"));
         QVERIFY(window.activate());
 
-        KeypadDriver keypad;
+        KeypadDriver keypad(*sharedKeypadDialog());
         Session session;
         keypad.then(typeOnKeypad(session, entry, keys, QStringLiteral("close")));
         QSignalSpy spy(&entry, &TextEntry::textChanged);
-        QSignalSpy finished(keypadDialog(), &QDialog::finished);
+        QSignalSpy finished(sharedKeypadDialog(), &QDialog::finished);
 
         QLineEdit *line = lineEdit(entry);
         QTest::mouseClick(line, Qt::LeftButton);
@@ -809,7 +729,7 @@ private Q_SLOTS:
         window.entry->setText(QStringLiteral("12.5"));
         QVERIFY(window.activate());
 
-        KeypadDriver keypad;
+        KeypadDriver keypad(*sharedKeypadDialog());
         Session first;
         Session second;
         keypad.then(typeOnKeypad(first, *window.entry, split("4"), QStringLiteral("close")));
@@ -832,7 +752,7 @@ private Q_SLOTS:
         singleton::TextEntry::instance()->setUseKeypad(false);
         Window window;
         QVERIFY(window.activate());
-        KeypadDriver keypad;
+        KeypadDriver keypad(*sharedKeypadDialog());
         QLineEdit *line = lineEdit(*window.entry);
         QTest::mouseClick(line, Qt::LeftButton);
         QVERIFY(line->hasFocus());
