@@ -81,39 +81,37 @@ private Q_SLOTS:
         QCOMPARE(box->information(source, QStringLiteral("Info"), QStringLiteral("Text"), QMessageBox::Warning), 0);
     }
 
-    void confirmForwardsEveryArgument()
+    void callsForwardEveryArgument_data()
     {
-        Recorder recorder(1);
+        QTest::addColumn<QString>("call");
+        QTest::addColumn<QMessageBox::Icon>("icon");
+        QTest::addColumn<int>("answer");
+        QTest::newRow("confirm") << QStringLiteral("confirm") << QMessageBox::Question << 1;
+        QTest::newRow("information") << QStringLiteral("information") << QMessageBox::Information << 107;
+    }
+
+    void callsForwardEveryArgument()
+    {
+        QFETCH(QString, call);
+        QFETCH(QMessageBox::Icon, icon);
+        QFETCH(int, answer);
+
+        Recorder recorder(answer % 100);
         ExternalMessageBox *box = ExternalMessageBox::instance();
         box->setImplementation(&recorder);
         QCOMPARE(box->implementation(), &recorder);
 
         QWidget source;
-        QCOMPARE(box->confirm(source, QStringLiteral("Reset"), QStringLiteral("Reset all values?"),
-                              QMessageBox::Question),
-                 1);
-        QCOMPARE(recorder.calls, QStringList{QStringLiteral("confirm")});
+        const QString title = QStringLiteral("Reset");
+        const QString message = QStringLiteral("Reset all values?");
+        const int result = call == QLatin1String("confirm") ? box->confirm(source, title, message, icon)
+                                                            : box->information(source, title, message, icon);
+        QCOMPARE(result, answer);
+        QCOMPARE(recorder.calls, QStringList{call});
         QCOMPARE(recorder.source, &source);
-        QCOMPARE(recorder.title, QStringLiteral("Reset"));
-        QCOMPARE(recorder.message, QStringLiteral("Reset all values?"));
-        QCOMPARE(recorder.icon, QMessageBox::Question);
-    }
-
-    void informationForwardsEveryArgument()
-    {
-        Recorder recorder(7);
-        ExternalMessageBox *box = ExternalMessageBox::instance();
-        box->setImplementation(&recorder);
-
-        QWidget source;
-        QCOMPARE(box->information(source, QStringLiteral("Saved"), QStringLiteral("Preset stored"),
-                                  QMessageBox::Information),
-                 107);
-        QCOMPARE(recorder.calls, QStringList{QStringLiteral("information")});
-        QCOMPARE(recorder.source, &source);
-        QCOMPARE(recorder.title, QStringLiteral("Saved"));
-        QCOMPARE(recorder.message, QStringLiteral("Preset stored"));
-        QCOMPARE(recorder.icon, QMessageBox::Information);
+        QCOMPARE(recorder.title, title);
+        QCOMPARE(recorder.message, message);
+        QCOMPARE(recorder.icon, icon);
     }
 
     void defaultIconIsNoIcon()

@@ -52,6 +52,16 @@ public:
         resize(300, 100);
     }
 
+    // Makes the entry a field from 0 to 100 with 1 decimal, holding 12.5, that opens the keypad.
+    void openKeypad(bool dynamic, const QString &suffix)
+    {
+        singleton::TextEntry::instance()->setUseKeypad(true);
+        entry->setValidator(percent);
+        entry->setDynamicTextEntry(dynamic);
+        entry->setSuffix(suffix);
+        entry->setText(QStringLiteral("12.5"));
+    }
+
     bool activate()
     {
         show();
@@ -61,6 +71,8 @@ public:
 
     TextEntry *const entry;
     QLineEdit *const other;
+    // A child made after the entry, so that it is deleted after it.
+    DoubleValidator *const percent = new DoubleValidator(0.0, 100.0, 1, this);
 };
 
 // Records the key presses that reach the object it filters.
@@ -626,14 +638,9 @@ private Q_SLOTS:
         QFETCH(QStringList, entryShows);
         QFETCH(QStringList, emissions);
 
-        singleton::TextEntry::instance()->setUseKeypad(true);
         Window window;
+        window.openKeypad(dynamic, suffix);
         TextEntry &entry = *window.entry;
-        DoubleValidator validator(0.0, 100.0, 1);
-        entry.setValidator(&validator);
-        entry.setDynamicTextEntry(dynamic);
-        entry.setSuffix(suffix);
-        entry.setText(QStringLiteral("12.5"));
         QVERIFY(window.activate());
 
         KeypadDriver keypad(*sharedKeypadDialog());
@@ -686,14 +693,9 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QFETCH(QStringList, emissions);
 
-        singleton::TextEntry::instance()->setUseKeypad(true);
         Window window;
+        window.openKeypad(dynamic, suffix);
         TextEntry &entry = *window.entry;
-        DoubleValidator validator(0.0, 100.0, 1);
-        entry.setValidator(&validator);
-        entry.setDynamicTextEntry(dynamic);
-        entry.setSuffix(suffix);
-        entry.setText(QStringLiteral("12.5"));
         QVERIFY(window.activate());
 
         KeypadDriver keypad(*sharedKeypadDialog());
@@ -722,11 +724,8 @@ private Q_SLOTS:
 
     void keypadOpensAgainOnTheNextTouch()
     {
-        singleton::TextEntry::instance()->setUseKeypad(true);
         Window window;
-        DoubleValidator validator(0.0, 100.0, 1);
-        window.entry->setValidator(&validator);
-        window.entry->setText(QStringLiteral("12.5"));
+        window.openKeypad(false, QString());
         QVERIFY(window.activate());
 
         KeypadDriver keypad(*sharedKeypadDialog());

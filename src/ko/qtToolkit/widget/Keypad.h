@@ -25,9 +25,9 @@ class TextEntry;
  * with its decimals, then emits accepted(). Escape emits rejected().
  *
  * The fader, at the right, is shown only while the keypad edits a TextEntry live (see
- * setDynamicWidget()); it then takes its range from the entry's QDoubleValidator, and every
- * key, as well as every move of the fader, sends the clamped and formatted value through
- * valueUpdated().
+ * setDynamicWidget()); it then takes its range from the entry's QDoubleValidator, and each key
+ * that changes the value, like each move of the fader, reports the clamped and formatted value
+ * through valueUpdated() while the display keeps the typed text.
  */
 class KO_QTTOOLKIT_EXPORT Keypad : public QGroupBox
 {
