@@ -550,10 +550,10 @@ private Q_SLOTS:
         QCOMPARE(keypad.dynamicWidget(), nullptr);
     }
 
-    void liveKeysGoThroughTheFader()
+    void onlyEnterGoesThroughTheFader()
     {
-        // With an entry attached, every key sends its value through the fader: valueUpdated()
-        // carries the clamped, formatted value while the display keeps the typed text.
+        // With an entry attached, keys edit the display only; Enter sends the typed value
+        // through the fader, and valueUpdated() carries its clamped, formatted text.
         QWidget window;
         auto *keypad = new Keypad(&window);
         window.show();
@@ -568,9 +568,13 @@ private Q_SLOTS:
         const QStringList typed = press(*keypad, QString::fromLatin1("2 5 0 DEL . 5").split(QLatin1Char(' ')),
                                         Input::Buttons);
         QCOMPARE(typed, QString::fromLatin1("2 25 250 25 25. 25.5").split(QLatin1Char(' ')));
-        // "25." has the value of "25": the fader does not move and nothing is sent.
-        QCOMPARE(updates, QString::fromLatin1("2.0 25.0 100.0 25.0 25.5").split(QLatin1Char(' ')));
+        QCOMPARE(updates, QStringList());
+        QCOMPARE(fader(*keypad)->getData(), 12.5f);
+
+        press(*keypad, QStringList{QStringLiteral("OK")}, Input::Buttons);
+        QCOMPARE(updates, QStringList{QStringLiteral("25.5")});
         QCOMPARE(fader(*keypad)->getData(), 25.5f);
+        QCOMPARE(keypad->text(), QStringLiteral("25.5"));
     }
 
     void showGivesFocus()

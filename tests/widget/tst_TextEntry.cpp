@@ -623,11 +623,12 @@ private Q_SLOTS:
         // text differs from the display and is committed, unchanged, first.
         QTest::newRow("plain, suffix") << false << QStringLiteral("%") << split("12.5 12.5 12.5")
                                        << split("12.5% 12.5% 12.5%") << split("12.5 100.0");
-        // Each key reaches the entry at once, clamped and formatted by the keypad's fader.
-        QTest::newRow("dynamic") << true << QString() << split("2.0 25.0 100.0") << split("2.0 25.0 100.0")
-                                 << split("2.0 25.0 100.0 100.0");
-        QTest::newRow("dynamic, suffix") << true << QStringLiteral("%") << split("2.0 25.0 100.0")
-                                         << split("2.0% 25.0% 100.0%") << split("12.5 2.0 25.0 100.0 100.0");
+        // Keys edit the keypad's display only; Enter sends the typed value through the fader,
+        // whose clamped value reaches the entry live before the entry commits the keypad's text.
+        QTest::newRow("dynamic") << true << QString() << split("12.5 12.5 12.5") << split("12.5 12.5 12.5")
+                                 << split("100.0 100.0");
+        QTest::newRow("dynamic, suffix") << true << QStringLiteral("%") << split("12.5 12.5 12.5")
+                                         << split("12.5% 12.5% 12.5%") << split("12.5 100.0 100.0");
     }
 
     void touchToResult()
@@ -680,9 +681,9 @@ private Q_SLOTS:
                                        << split("12.5");
         QTest::newRow("dynamic, close at once") << true << QString() << QStringList() << QStringLiteral("12.5")
                                                 << QStringList();
-        // What was already sent live stays: there is no commit to undo.
+        // Keys alone send nothing to the entry: closing leaves it as it was.
         QTest::newRow("dynamic, keys then close")
-            << true << QString() << split("7") << QStringLiteral("7.0") << split("7.0");
+            << true << QString() << split("7") << QStringLiteral("12.5") << QStringList();
     }
 
     void closeButtonCancels()

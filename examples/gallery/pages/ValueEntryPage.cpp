@@ -132,7 +132,7 @@ QWidget *createKeypadSwitch()
     QObject::connect(toggle, &widget::ToggleButtonGroup::onToggled, singleton::TextEntry::instance(),
                      &singleton::TextEntry::setUseKeypad);
     auto *hint = new QLabel(QStringLiteral("When on, touching a numeric entry opens the keypad inside this "
-                                           "window; drag it by its border. Live entries follow every key."));
+                                           "window; drag it by its border. Live entries follow the keypad's fader."));
     hint->setWordWrap(true);
     layout->addWidget(toggle);
     layout->addWidget(hint, 1);

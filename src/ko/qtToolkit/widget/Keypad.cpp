@@ -163,19 +163,16 @@ void KeypadPrivate::keyPressed(int pressed)
 
     QString text = display->text();
     const float value = text.toFloat();
-    bool edited = true;
 
     switch (key) {
     case Qt::Key_Escape:
-        edited = false;
         Q_EMIT q->rejected();
         break;
     case Qt::Key_Backspace:
         text.chop(1);
         break;
     case Qt::Key_Enter:
-        edited = false;
-        // The fader clamps and formats: its dataChanged() rewrites the display and emits
+        // Only Enter goes through the fader. It clamps and formats: its dataChanged() rewrites the display and emits
         // valueUpdated() before accepted().
         fader->setData(text.toFloat());
         Q_EMIT q->accepted();
@@ -200,10 +197,6 @@ void KeypadPrivate::keyPressed(int pressed)
             text += QChar(key);
         break;
     }
-
-    // A live entry follows every key, clamped and formatted by the fader.
-    if (edited && dynamicWidget)
-        fader->setData(text.toFloat());
 
     // The display keeps the text as typed, also after Enter, where it replaces what the fader
     // wrote: a receiver that reads text() during valueUpdated() or accepted() sees the clamped

@@ -25,9 +25,9 @@ class TextEntry;
  * with its decimals, then emits accepted(). Escape emits rejected().
  *
  * The fader, at the right, is shown only while the keypad edits a TextEntry live (see
- * setDynamicWidget()); it then takes its range from the entry's QDoubleValidator, and each key
- * that changes the value, like each move of the fader, reports the clamped and formatted value
- * through valueUpdated() while the display keeps the typed text.
+ * setDynamicWidget()); it then takes its range from the entry's QDoubleValidator. Keys edit the
+ * display only: values are clamped on "OK" alone. Each change of the fader's value, by "OK" or
+ * by a finger on the fader, reports the clamped and formatted value through valueUpdated().
  */
 class KO_QTTOOLKIT_EXPORT Keypad : public QGroupBox
 {
