@@ -1,0 +1,53 @@
+#ifndef KO_QTTOOLKIT_COMMON_DOUBLEVALIDATOR_H
+#define KO_QTTOOLKIT_COMMON_DOUBLEVALIDATOR_H
+
+#include <ko/qtToolkit/qtToolkit_export.h>
+
+#include <QDoubleValidator>
+
+namespace ko::qtToolkit::common {
+
+/**
+ * \brief A QDoubleValidator for keypad entry: out-of-range input is Invalid and fixup() clamps.
+ *
+ * validate() reads the text with the validator's locale; fixup() always reads it with a full
+ * stop as decimal point (QString::toDouble()), whatever the locale, and writes it back the same
+ * way. With a locale whose decimal point is a comma, fixup() therefore cannot parse "1,5" and
+ * turns it into 0 clamped to the range.
+ */
+class KO_QTTOOLKIT_EXPORT DoubleValidator : public QDoubleValidator
+{
+    Q_OBJECT
+
+public:
+    /**
+     * \brief The constructors of QDoubleValidator: (parent) and (bottom, top, decimals, parent).
+     *
+     * The parent, when given, owns the validator.
+     */
+    using QDoubleValidator::QDoubleValidator;
+
+    /**
+     * \brief Checks \a input; \a pos is neither read nor changed.
+     *
+     * \return Intermediate for an empty text and, when bottom() is negative, for a lone "-";
+     *         Invalid for more than decimals() characters after the locale's decimal point, for
+     *         text the locale cannot read as a number, and for any value outside
+     *         [bottom(), top()]; Acceptable otherwise. Out-of-range input is never Intermediate,
+     *         so a keypad cannot type a value that would only become valid later.
+     */
+    State validate(QString &input, int &pos) const override;
+
+    /**
+     * \brief Replaces \a input by its value clamped to [bottom(), top()], in fixed-point notation
+     *        with exactly decimals() digits after the point.
+     *
+     * The text is read with a full stop as decimal point; text that is not a number counts as 0.
+     * When bottom() is greater than top(), bottom() wins.
+     */
+    void fixup(QString &input) const override;
+};
+
+} // namespace ko::qtToolkit::common
+
+#endif

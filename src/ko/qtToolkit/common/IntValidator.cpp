@@ -1,0 +1,19 @@
+#include <ko/qtToolkit/common/IntValidator.h>
+
+#include <algorithm>
+
+namespace ko::qtToolkit::common {
+
+void IntValidator::fixup(QString &input) const
+{
+    bool ok = false;
+    qlonglong value = input.toLongLong(&ok, 10);
+    if (!ok)
+        value = 0;
+    // Clamped in 64 bits so that values beyond the int range still end at a bound.
+    value = std::min<qlonglong>(value, top());
+    value = std::max<qlonglong>(value, bottom());
+    input = QString::number(value, 10);
+}
+
+} // namespace ko::qtToolkit::common

@@ -1,0 +1,39 @@
+#ifndef KO_QTTOOLKIT_COMMON_INTVALIDATOR_H
+#define KO_QTTOOLKIT_COMMON_INTVALIDATOR_H
+
+#include <ko/qtToolkit/qtToolkit_export.h>
+
+#include <QIntValidator>
+
+namespace ko::qtToolkit::common {
+
+/**
+ * \brief A QIntValidator whose fixup() repairs any text into the range.
+ *
+ * Validation is QIntValidator's. fixup() turns unparsable text into 0 and clamps every value to
+ * [bottom(), top()], so a field that went through fixup() always holds a number in range.
+ */
+class KO_QTTOOLKIT_EXPORT IntValidator : public QIntValidator
+{
+    Q_OBJECT
+
+public:
+    /**
+     * \brief The constructors of QIntValidator: (parent) and (bottom, top, parent).
+     *
+     * The parent, when given, owns the validator.
+     */
+    using QIntValidator::QIntValidator;
+
+    /**
+     * \brief Replaces \a input by its value clamped to [bottom(), top()].
+     *
+     * The text is read as a 64-bit decimal integer; text that is not one counts as 0. When
+     * bottom() is greater than top(), bottom() wins.
+     */
+    void fixup(QString &input) const override;
+};
+
+} // namespace ko::qtToolkit::common
+
+#endif

@@ -1,0 +1,63 @@
+#ifndef KO_QTTOOLKIT_SINGLETON_KEYPAD_H
+#define KO_QTTOOLKIT_SINGLETON_KEYPAD_H
+
+#include <ko/qtToolkit/qtToolkit_export.h>
+#include <ko/qtToolkit/dialog/Keypad.h>
+
+#include <QObject>
+#include <QRect>
+#include <QString>
+
+namespace ko::qtToolkit::widget {
+class TextEntry;
+}
+
+namespace ko::qtToolkit::singleton {
+
+/**
+ * \brief The keypad dialog that every numeric widget::TextEntry opens.
+ *
+ * One dialog::Keypad, made on the first call of instance() (after the QApplication) and never
+ * destroyed. An application sets constrainedRect() to the area the keypad may use, usually its
+ * main window's geometry, before an entry first opens it.
+ */
+class KO_QTTOOLKIT_EXPORT Keypad : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE setText)
+
+public:
+    /// \brief The one instance, created on the first call.
+    static Keypad *instance();
+
+    /// \brief Runs the dialog modally; returns QDialog::Accepted or QDialog::Rejected.
+    int exec();
+
+    /// \brief See dialog::Keypad::setText().
+    void setText(const QString &text);
+    /// \brief See dialog::Keypad::text().
+    QString text() const;
+
+    /**
+     * \brief See dialog::Keypad::setDynamicWidget().
+     *
+     * The entry is not owned.
+     */
+    void setDynamicWidget(widget::TextEntry *entry);
+    /// \brief See dialog::Keypad::dynamicWidget().
+    widget::TextEntry *dynamicWidget() const;
+
+    /// \brief See dialog::Keypad::setConstrainedRect().
+    void setConstrainedRect(const QRect &rect);
+    /// \brief See dialog::Keypad::constrainedRect().
+    QRect constrainedRect() const;
+
+private:
+    Keypad();
+
+    dialog::Keypad m_dialog;
+};
+
+} // namespace ko::qtToolkit::singleton
+
+#endif

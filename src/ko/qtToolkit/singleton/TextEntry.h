@@ -1,0 +1,44 @@
+#ifndef KO_QTTOOLKIT_SINGLETON_TEXTENTRY_H
+#define KO_QTTOOLKIT_SINGLETON_TEXTENTRY_H
+
+#include <ko/qtToolkit/qtToolkit_export.h>
+
+#include <QObject>
+
+namespace ko::qtToolkit::singleton {
+
+/**
+ * \brief The application-wide settings of widget::TextEntry.
+ *
+ * Created on the first call of instance(), never destroyed.
+ */
+class KO_QTTOOLKIT_EXPORT TextEntry : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// \brief The one instance, created on the first call.
+    static TextEntry *instance();
+
+    /**
+     * \brief Whether numeric entries open the keypad (singleton::Keypad) when they get focus;
+     *        false by default.
+     */
+    bool useKeypad() const;
+
+    /// \brief Switches the keypad for numeric entries on or off; emits useKeypadChanged() on change.
+    void setUseKeypad(bool useKeypad);
+
+Q_SIGNALS:
+    /// \brief useKeypad() changed to \a useKeypad.
+    void useKeypadChanged(bool useKeypad);
+
+private:
+    TextEntry();
+
+    bool m_useKeypad = false;
+};
+
+} // namespace ko::qtToolkit::singleton
+
+#endif

@@ -1,0 +1,86 @@
+#ifndef KO_QTTOOLKIT_WIDGET_KEYPAD_H
+#define KO_QTTOOLKIT_WIDGET_KEYPAD_H
+
+#include <ko/qtToolkit/qtToolkit_export.h>
+
+#include <QGroupBox>
+#include <QString>
+
+#include <memory>
+
+namespace ko::qtToolkit::widget {
+
+class KeypadPrivate;
+class TextEntry;
+
+/**
+ * \brief An on-screen numeric keypad: a display, fifteen keys and a fader.
+ *
+ * The keys 0 to 9, ".", "-", "K" (thousands), "DEL" and "OK" build a number as text in the
+ * display; a hardware keyboard works the same way (comma and full stop for the point, Delete as
+ * Backspace, Return as Enter, Escape to cancel). The first key after the keypad is shown starts
+ * a new number.
+ *
+ * "OK" passes the typed value through the fader, which clamps it to its range and formats it
+ * with its decimals, then emits accepted(). Escape emits rejected().
+ *
+ * The fader, at the right, is shown only while the keypad edits a TextEntry live (see
+ * setDynamicWidget()); it then takes its range from the entry's QDoubleValidator. Keys edit the
+ * display only: values are clamped on "OK" alone. Each change of the fader's value, by "OK" or
+ * by a finger on the fader, reports the clamped and formatted value through valueUpdated().
+ */
+class KO_QTTOOLKIT_EXPORT Keypad : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    /**
+     * \brief A keypad titled "Numeric Keypad" showing "0".
+     * \param parent the owner of the keypad, or null
+     */
+    explicit Keypad(QWidget *parent = nullptr);
+    ~Keypad() override;
+
+    /// \brief Shows \a text in the display, hides the fader and forgets the dynamic widget.
+    void setText(const QString &text);
+
+    /// \brief The display's text.
+    QString text() const;
+
+    /**
+     * \brief Lets the keypad edit \a entry live: shows the fader set to the entry's value and,
+     *        when the entry has a QDoubleValidator, to its range; null changes nothing else.
+     *
+     * The entry is not owned; the keypad forgets it when it is deleted.
+     */
+    void setDynamicWidget(TextEntry *entry);
+
+    /// \brief The entry edited live, or null.
+    TextEntry *dynamicWidget() const;
+
+    /// \brief Sets the lower end of the fader's range.
+    void setMinimumData(float minimum);
+
+    /// \brief Sets the upper end of the fader's range.
+    void setMaximumData(float maximum);
+
+    /// \brief Sets the number of decimals the fader keeps and the display shows after "OK".
+    void setNumberOfDecimals(unsigned int decimals);
+
+Q_SIGNALS:
+    /// \brief "OK" or Enter was pressed.
+    void accepted();
+
+    /// \brief Escape was pressed.
+    void rejected();
+
+    /// \brief The fader's value changed; text() holds it, clamped and formatted, for now.
+    void valueUpdated();
+
+private:
+    std::unique_ptr<KeypadPrivate> const d;
+};
+
+} // namespace ko::qtToolkit::widget
+
+#endif
