@@ -5,7 +5,7 @@
 #include <ko/qtToolkit/widget/Keypad.h>
 #include <ko/qtToolkit/widget/TextEntry.h>
 
-#include <DragSupport.h>
+#include <WidgetSupport.h>
 #include <KeypadSupport.h>
 #include <TestSupport.h>
 
