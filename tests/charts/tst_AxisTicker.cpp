@@ -2,6 +2,8 @@
 #include <ko/qtToolkit/charts/CustomAxisTicker.h>
 #include <ko/qtToolkit/charts/LogarithmicAxisTicker.h>
 
+#include "TickerTestSupport.h"
+
 #include <QTest>
 
 #include <algorithm>
@@ -14,78 +16,9 @@
 using ko::qtToolkit::charts::AxisTicker;
 using ko::qtToolkit::charts::CustomAxisTicker;
 using ko::qtToolkit::charts::LogarithmicAxisTicker;
-
-using Values = QVector<double>;
+using namespace tickerTest;
 
 namespace {
-
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-
-// What the tickers promise to allocate at most.
-constexpr int maximumTicks = 500;
-constexpr int maximumSubTicks = 5000;
-
-bool same(double a, double b)
-{
-    return a == b || (std::isnan(a) && std::isnan(b));
-}
-
-QString describe(double value)
-{
-    return QString::number(value, 'g', 17);
-}
-
-QString describe(const Values &values)
-{
-    QStringList parts;
-    for (const double value : values)
-        parts << describe(value);
-    return QLatin1Char('{') + parts.join(QStringLiteral(", ")) + QLatin1Char('}');
-}
-
-bool nearlyEqual(const Values &a, const Values &b)
-{
-    if (a.size() != b.size())
-        return false;
-    for (int i = 0; i < a.size(); ++i) {
-        if (std::abs(a[i] - b[i]) > 1e-12)
-            return false;
-    }
-    return true;
-}
-
-// Collects the messages logged while it lives, instead of printing them: all of them, or each
-// distinct text once.
-class MessageLog
-{
-public:
-    enum Mode { Every, Distinct };
-
-    explicit MessageLog(Mode mode = Every)
-    {
-        s_mode = mode;
-        s_messages.clear();
-        m_previous = qInstallMessageHandler(&MessageLog::handle);
-    }
-    ~MessageLog() { qInstallMessageHandler(m_previous); }
-
-    QStringList messages() const { return s_messages; }
-
-private:
-    static void handle(QtMsgType, const QMessageLogContext &, const QString &message)
-    {
-        if (s_mode == Every || !s_messages.contains(message))
-            s_messages.append(message);
-    }
-
-    static Mode s_mode;
-    static QStringList s_messages;
-    QtMessageHandler m_previous;
-};
-
-MessageLog::Mode MessageLog::s_mode = MessageLog::Every;
-QStringList MessageLog::s_messages;
 
 // A ticker with a step of its own choosing, to put ranges between two ticks.
 class FixedStepTicker : public AxisTicker
@@ -100,19 +33,6 @@ public:
 private:
     double m_step;
 };
-
-struct Generated
-{
-    Values ticks;
-    Values subTicks;
-};
-
-Generated generated(const AxisTicker &ticker, double min, double max)
-{
-    Generated result;
-    ticker.generate(min, max, result.ticks, result.subTicks);
-    return result;
-}
 
 // The linear algorithm written down step by step without any limit, for ranges whose grid is
 // small enough to build: the results of AxisTicker must be these wherever the grid stays sane.
@@ -218,24 +138,6 @@ struct Reference
 };
 
 } // namespace
-
-#define COMPARE_VALUES(actual, expected)                                                          \
-    do {                                                                                          \
-        const Values actualValues = (actual);                                                     \
-        const Values expectedValues = (expected);                                                 \
-        QVERIFY2(actualValues == expectedValues,                                                  \
-                 qPrintable(QStringLiteral("\n   Actual:   %1\n   Expected: %2")                  \
-                                .arg(describe(actualValues), describe(expectedValues))));         \
-    } while (false)
-
-#define COMPARE_DOUBLE(actual, expected)                                                          \
-    do {                                                                                          \
-        const double actualValue = (actual);                                                      \
-        const double expectedValue = (expected);                                                  \
-        QVERIFY2(same(actualValue, expectedValue),                                                \
-                 qPrintable(QStringLiteral("actual %1, expected %2")                              \
-                                .arg(describe(actualValue), describe(expectedValue))));           \
-    } while (false)
 
 class tst_AxisTicker : public QObject
 {
