@@ -179,6 +179,7 @@ private Q_SLOTS:
     void generateLabelsClearsAndFills();
     void labelFormat_data();
     void labelFormat();
+    void labelFormatIsPrintf();
     void labelFormatRefused_data();
     void labelFormatRefused();
 
@@ -548,9 +549,10 @@ void tst_AxisTicker::createTicksGrid_data()
     QTest::newRow("0 .. 100 by 30") << 30.0 << 0.0 << 100.0 << 0.0 << -1 << 6;
     QTest::newRow("origin 0.5") << 1.0 << 0.0 << 3.0 << 0.5 << -2 << 7;
     QTest::newRow("zero width on a tick") << 1.0 << 2.0 << 2.0 << 0.0 << 1 << 3;
-    // The grid from the floored and ceiled distances would hold 336 ticks: still built.
-    QTest::newRow("0 .. 0.01 by 0.003") << 0.003 << 0.0 << 0.01 << 0.0 << -1 << 336;
-    // Here it would hold 3336: only the ticks around the range are created.
+    // The grid from the floored and ceiled distances holds 63 ticks: still built.
+    QTest::newRow("0 .. 0.05 by 0.0165") << 0.0165 << 0.0 << 0.05 << 0.0 << -1 << 63;
+    // Here it would hold 65, or 3336: only the ticks around the range are created.
+    QTest::newRow("0 .. 0.05 by 0.016") << 0.016 << 0.0 << 0.05 << 0.0 << -1 << 7;
     QTest::newRow("0 .. 0.001 by 0.0003") << 0.0003 << 0.0 << 0.001 << 0.0 << -1 << 7;
     QTest::newRow("0 .. 1e-12 by 3e-13") << 3e-13 << 0.0 << 1e-12 << 0.0 << -1 << 7;
     QTest::newRow("2 .. 2.5 by 0.125 in a grid of 4 .. 0")
@@ -786,6 +788,15 @@ void tst_AxisTicker::generateLabelsClearsAndFills()
     QCOMPARE(labels,
              QStringList({QStringLiteral("-1.50"), QStringLiteral("0.00"), QStringLiteral("2.35"),
                           QStringLiteral("1000000.00")}));
+
+    ticker.generateLabels(Values{7, 8}, labels);
+    QCOMPARE(labels, QStringList({QStringLiteral("7.00"), QStringLiteral("8.00")}));
+
+    // A list shared with another one leaves that one as it was.
+    const QStringList copy = labels;
+    ticker.generateLabels(Values{9}, labels);
+    QCOMPARE(labels, QStringList{QStringLiteral("9.00")});
+    QCOMPARE(copy, QStringList({QStringLiteral("7.00"), QStringLiteral("8.00")}));
 }
 
 void tst_AxisTicker::labelFormat_data()
@@ -821,6 +832,24 @@ void tst_AxisTicker::labelFormat()
     QStringList labels;
     ticker.generateLabels(Values{value}, labels);
     QCOMPARE(labels, QStringList{expected});
+}
+
+void tst_AxisTicker::labelFormatIsPrintf()
+{
+    // Whatever shortcut formats a label, the text is the one of the printf-style format.
+    std::mt19937_64 random(7);
+    Values values{0.0,   -0.0,    0.5,     1.5,     2.5,      -2.5,     0.125,   1.005,
+                  2.675, 1e-7,    -1e-7,   1e15,    1e21,     DBL_MAX,  -DBL_MAX, DBL_MIN,
+                  5e-324, infinity, -infinity, notANumber, 123456.789, 0.045, 999.9999999};
+    std::uniform_real_distribution<double> exponent(-20.0, 25.0);
+    for (int i = 0; i < 2000; ++i)
+        values.append((i % 2 ? -1.0 : 1.0) * std::pow(10.0, exponent(random)));
+    AxisTicker ticker;
+    for (const char *format : {"%.0f", "%.1f", "%.2f", "%.3f", "%.9f", "%.2e", "%g", "%.1f%%"}) {
+        ticker.setLabelFormat(QString::fromLatin1(format));
+        for (const double value : values)
+            QCOMPARE(ticker.tickLabel(value), QString::asprintf(format, value));
+    }
 }
 
 void tst_AxisTicker::labelFormatRefused_data()
