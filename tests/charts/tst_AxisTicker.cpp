@@ -168,8 +168,8 @@ private Q_SLOTS:
     void createSubTicks_data();
     void createSubTicks();
 
-    void workedExamples_data();
-    void workedExamples();
+    void typicalRanges_data();
+    void typicalRanges();
     void rangeEndsOnTicksKeepThem();
     void rangeBetweenTwoTicks();
     void tickOriginShiftsGrid();
@@ -621,7 +621,7 @@ void tst_AxisTicker::createSubTicks()
     COMPARE_VALUES(AxisTicker().createSubTicks(subTickCount, ticks), expected);
 }
 
-void tst_AxisTicker::workedExamples_data()
+void tst_AxisTicker::typicalRanges_data()
 {
     QTest::addColumn<double>("min");
     QTest::addColumn<double>("max");
@@ -663,7 +663,7 @@ void tst_AxisTicker::workedExamples_data()
                        QStringLiteral("0.75")};
 }
 
-void tst_AxisTicker::workedExamples()
+void tst_AxisTicker::typicalRanges()
 {
     QFETCH(double, min);
     QFETCH(double, max);

@@ -63,8 +63,8 @@ private Q_SLOTS:
     void subTickCountZeroGivesNone();
     void stepsIgnoreTheirArguments();
 
-    void workedExampleTwentyToTwentyThousand();
-    void workedExampleNinePowers();
+    void twentyToTwentyThousand();
+    void ninePowersOfTen();
     void onePower();
     void insideOneDecade();
     void belowZeroMirrors();
@@ -151,7 +151,7 @@ void tst_LogarithmicAxisTicker::stepsIgnoreTheirArguments()
                    ticker.createTicks(notANumber, 20.0, 20000.0));
 }
 
-void tst_LogarithmicAxisTicker::workedExampleTwentyToTwentyThousand()
+void tst_LogarithmicAxisTicker::twentyToTwentyThousand()
 {
     // Three powers across by 3: 0.99999999997 is cleaned to 0.8, so the exponent step is 1.
     const LogarithmicAxisTicker ticker;
@@ -173,7 +173,7 @@ void tst_LogarithmicAxisTicker::workedExampleTwentyToTwentyThousand()
                                   QStringLiteral("10000.00")}));
 }
 
-void tst_LogarithmicAxisTicker::workedExampleNinePowers()
+void tst_LogarithmicAxisTicker::ninePowersOfTen()
 {
     // 9 / 3 has a mantissa just below 3, cleaned to 2.5: every second power of ten.
     const LogarithmicAxisTicker ticker;

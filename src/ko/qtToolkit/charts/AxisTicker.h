@@ -46,8 +46,10 @@ class KO_QTTOOLKIT_EXPORT AxisTicker
 public:
     /**
      * \brief How a raw step (range divided by the tick count) is rounded to a readable one.
+     *
+     * Any int converts to it; values other than FineSteps round as PreferredSteps.
      */
-    enum TickStepStrategy {
+    enum TickStepStrategy : int {
         /// Step mantissas 1, 2, 2.5, 5 and 10: the raw mantissa moves up to the next of these.
         PreferredSteps = 0,
         /// Step mantissas 1, 1.5, ..., 5 (multiples of 0.5), and 4, 6 or 8 above 5.
@@ -177,7 +179,7 @@ public:
      * With \a keepOneOutlier, the nearest tick below \a min and the nearest above \a max stay.
      * When no tick is at or above \a min, or none at or below \a max, the vector is cleared; so
      * a range lying wholly between two ticks keeps both with \a keepOneOutlier and none without.
-     * For min > max the vector ends up empty or unchanged, never with a negative length.
+     * For min > max the parts to trim can overlap; the vector is then cleared.
      */
     static void trimTicks(double min, double max, QVector<double> &ticks, bool keepOneOutlier);
 

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace ko::qtToolkit::charts {
 
@@ -23,7 +24,9 @@ void LogarithmicAxisTicker::setBase(double base)
         return;
     }
     m_base = base;
-    m_logBaseFactor = 1.0 / std::log(base);
+    // Base 1 is accepted; its factor is infinite (and yields no ticks).
+    const double logBase = std::log(base);
+    m_logBaseFactor = logBase == 0.0 ? std::numeric_limits<double>::infinity() : 1.0 / logBase;
 }
 
 int LogarithmicAxisTicker::subTickCount() const
