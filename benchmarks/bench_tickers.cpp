@@ -176,89 +176,111 @@ private:
     std::map<std::string, std::vector<double>> m_cpuTimes;
 };
 
+
+// The tickers of both sides, alive for the whole run: the benchmarks refer to them.
+class Cases
+{
+public:
+    void addOurs(const std::string &name, std::unique_ptr<charts::AxisTicker> ticker,
+                 const Ranges &ranges)
+    {
+        benchmark::RegisterBenchmark(("ours/" + name).c_str(), runOurs, std::cref(*ticker),
+                                     ranges);
+        m_tickers.push_back(std::move(ticker));
+        m_names.push_back(name);
+    }
+
+#ifdef KO_HAVE_QCUSTOMPLOT
+    void addPeer(const std::string &name, const QSharedPointer<QCPAxisTicker> &ticker,
+                 const Ranges &ranges)
+    {
+        benchmark::RegisterBenchmark(("peer/" + name).c_str(), runPeer, std::ref(*ticker),
+                                     ranges);
+        m_peers.push_back(ticker);
+    }
+#endif
+
+    const std::vector<std::string> &names() const { return m_names; }
+
+private:
+    std::vector<std::unique_ptr<charts::AxisTicker>> m_tickers;
+#ifdef KO_HAVE_QCUSTOMPLOT
+    std::vector<QSharedPointer<QCPAxisTicker>> m_peers;
+#endif
+    std::vector<std::string> m_names;
+};
+
+void addLinear(Cases &cases, const std::string &name, const Ranges &ranges, int tickCount,
+               charts::AxisTicker::TickStepStrategy strategy)
+{
+    auto ticker = std::make_unique<charts::AxisTicker>();
+    ticker->setTickCount(tickCount);
+    ticker->setTickStepStrategy(strategy);
+    cases.addOurs(name, std::move(ticker), ranges);
+#ifdef KO_HAVE_QCUSTOMPLOT
+    QSharedPointer<QCPAxisTicker> peer(new QCPAxisTicker);
+    peer->setTickCount(tickCount);
+    peer->setTickStepStrategy(QCPAxisTicker::tssMeetTickCount);
+    cases.addPeer(name, peer, ranges);
+#endif
+}
+
+void addLogarithmic(Cases &cases, const std::string &name, const Ranges &ranges)
+{
+    cases.addOurs(name, std::make_unique<charts::LogarithmicAxisTicker>(), ranges);
+#ifdef KO_HAVE_QCUSTOMPLOT
+    QSharedPointer<QCPAxisTickerLog> peer(new QCPAxisTickerLog);
+    peer->setLogBase(10.0);
+    peer->setSubTickCount(8);
+    peer->setTickCount(3);
+    cases.addPeer(name, peer, ranges);
+#endif
+}
+
+void addCustom(Cases &cases, const std::string &name, const Ranges &ranges)
+{
+    auto ticker = std::make_unique<charts::CustomAxisTicker>();
+    ticker->setSubTickCount(8);
+    for (const auto &[value, label] : frequencyTicks()) {
+        ticker->addTick(value);
+        ticker->setTickLabel(value, QString::fromLatin1(label));
+    }
+    cases.addOurs(name, std::move(ticker), ranges);
+#ifdef KO_HAVE_QCUSTOMPLOT
+    QSharedPointer<QCPAxisTickerText> peer(new QCPAxisTickerText);
+    peer->setSubTickCount(8);
+    for (const auto &[value, label] : frequencyTicks())
+        peer->addTick(value, QString::fromLatin1(label));
+    cases.addPeer(name, peer, ranges);
+#endif
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
-    // Tickers live for the whole run; the benchmarks refer to them.
-    std::vector<std::unique_ptr<charts::AxisTicker>> tickers;
-    std::vector<std::string> cases;
-#ifdef KO_HAVE_QCUSTOMPLOT
-    std::vector<QSharedPointer<QCPAxisTicker>> peers;
-#endif
-
-    const auto addLinear = [&](const std::string &name, const Ranges &ranges, int tickCount,
-                               charts::AxisTicker::TickStepStrategy strategy) {
-        auto ticker = std::make_unique<charts::AxisTicker>();
-        ticker->setTickCount(tickCount);
-        ticker->setTickStepStrategy(strategy);
-        benchmark::RegisterBenchmark(("ours/" + name).c_str(), runOurs, std::cref(*ticker),
-                                     ranges);
-        tickers.push_back(std::move(ticker));
-#ifdef KO_HAVE_QCUSTOMPLOT
-        QSharedPointer<QCPAxisTicker> peer(new QCPAxisTicker);
-        peer->setTickCount(tickCount);
-        peer->setTickStepStrategy(QCPAxisTicker::tssMeetTickCount);
-        benchmark::RegisterBenchmark(("peer/" + name).c_str(), runPeer, std::ref(*peer), ranges);
-        peers.push_back(peer);
-#endif
-        cases.push_back(name);
-    };
-    const auto addLogarithmic = [&](const std::string &name, const Ranges &ranges) {
-        auto ticker = std::make_unique<charts::LogarithmicAxisTicker>();
-        benchmark::RegisterBenchmark(("ours/" + name).c_str(), runOurs, std::cref(*ticker),
-                                     ranges);
-        tickers.push_back(std::move(ticker));
-#ifdef KO_HAVE_QCUSTOMPLOT
-        QSharedPointer<QCPAxisTickerLog> peer(new QCPAxisTickerLog);
-        peer->setLogBase(10.0);
-        peer->setSubTickCount(8);
-        peer->setTickCount(3);
-        benchmark::RegisterBenchmark(("peer/" + name).c_str(), runPeer, std::ref(*peer), ranges);
-        peers.push_back(peer);
-#endif
-        cases.push_back(name);
-    };
-    const auto addCustom = [&](const std::string &name, const Ranges &ranges) {
-        auto ticker = std::make_unique<charts::CustomAxisTicker>();
-        ticker->setSubTickCount(8);
-        for (const auto &[value, label] : frequencyTicks()) {
-            ticker->addTick(value);
-            ticker->setTickLabel(value, QString::fromLatin1(label));
-        }
-        benchmark::RegisterBenchmark(("ours/" + name).c_str(), runOurs, std::cref(*ticker),
-                                     ranges);
-        tickers.push_back(std::move(ticker));
-#ifdef KO_HAVE_QCUSTOMPLOT
-        QSharedPointer<QCPAxisTickerText> peer(new QCPAxisTickerText);
-        peer->setSubTickCount(8);
-        for (const auto &[value, label] : frequencyTicks())
-            peer->addTick(value, QString::fromLatin1(label));
-        benchmark::RegisterBenchmark(("peer/" + name).c_str(), runPeer, std::ref(*peer), ranges);
-        peers.push_back(peer);
-#endif
-        cases.push_back(name);
-    };
-
-    addLinear("linear 0 .. 7.3 by 5, fine steps", {{0.0, 7.3}}, 5, charts::AxisTicker::FineSteps);
-    addLinear("linear 0 .. 7.3 by 5, preferred steps", {{0.0, 7.3}}, 5,
-              charts::AxisTicker::PreferredSteps);
-    addLinear("linear 0 .. 100 by 3", {{0.0, 100.0}}, 3, charts::AxisTicker::FineSteps);
-    addLinear("linear 0.23 .. 0.77 by 3", {{0.23, 0.77}}, 3, charts::AxisTicker::FineSteps);
-    addLinear("linear zoom sweep of 1000 ranges", linearZoomSweep(), 3,
+    Cases cases;
+    addLinear(cases, "linear 0 .. 7.3 by 5, fine steps", {{0.0, 7.3}}, 5,
               charts::AxisTicker::FineSteps);
-    addLogarithmic("logarithmic 20 .. 20000", {{20.0, 20000.0}});
-    addLogarithmic("logarithmic 0.001 .. 1e6", {{0.001, 1e6}});
-    addLogarithmic("logarithmic zoom sweep of 1000 ranges", logarithmicZoomSweep());
-    addCustom("custom 20 .. 500", {{20.0, 500.0}});
-    addCustom("custom zoom sweep of 1000 ranges", logarithmicZoomSweep());
+    addLinear(cases, "linear 0 .. 7.3 by 5, preferred steps", {{0.0, 7.3}}, 5,
+              charts::AxisTicker::PreferredSteps);
+    addLinear(cases, "linear 0 .. 100 by 3", {{0.0, 100.0}}, 3, charts::AxisTicker::FineSteps);
+    addLinear(cases, "linear 0.23 .. 0.77 by 3", {{0.23, 0.77}}, 3,
+              charts::AxisTicker::FineSteps);
+    addLinear(cases, "linear zoom sweep of 1000 ranges", linearZoomSweep(), 3,
+              charts::AxisTicker::FineSteps);
+    addLogarithmic(cases, "logarithmic 20 .. 20000", {{20.0, 20000.0}});
+    addLogarithmic(cases, "logarithmic 0.001 .. 1e6", {{0.001, 1e6}});
+    addLogarithmic(cases, "logarithmic zoom sweep of 1000 ranges", logarithmicZoomSweep());
+    addCustom(cases, "custom 20 .. 500", {{20.0, 500.0}});
+    addCustom(cases, "custom zoom sweep of 1000 ranges", logarithmicZoomSweep());
 
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
-    reporter.printRatios(cases);
+    reporter.printRatios(cases.names());
     benchmark::Shutdown();
     return 0;
 }

@@ -34,9 +34,8 @@ private Q_SLOTS:
 
     void createTicks_data();
     void createTicks();
-    void ticksWithSubTicks();
-    void rangeBetweenTwoTicks();
-    void zeroWidthRangeOnATick();
+    void generate_data();
+    void generate();
 
     void tickWithoutLabelIsEmpty();
     void labelsForTicksAndSubTicks();
@@ -137,34 +136,43 @@ void tst_CustomAxisTicker::createTicks()
     COMPARE_VALUES(ticker.createTicks(notANumber, min, max), expected);
 }
 
-void tst_CustomAxisTicker::ticksWithSubTicks()
+void tst_CustomAxisTicker::generate_data()
 {
-    CustomAxisTicker ticker;
-    addTicks(ticker, {10, 100, 1000});
-    ticker.setSubTickCount(8);
-    const Generated result = generated(ticker, 20.0, 500.0);
-    COMPARE_VALUES(result.ticks, Values{100});
-    COMPARE_VALUES(result.subTicks, (Values{20, 30, 40, 50, 60, 70, 80, 90, 200, 300, 400, 500}));
+    QTest::addColumn<Values>("tickValues");
+    QTest::addColumn<double>("min");
+    QTest::addColumn<double>("max");
+    QTest::addColumn<Values>("ticks");
+    QTest::addColumn<Values>("subTicks");
+
+    // Eight sub-ticks between neighbouring ticks, trimmed to the range like the ticks.
+    QTest::newRow("20 .. 500 around decades")
+        << Values{10, 100, 1000} << 20.0 << 500.0 << Values{100}
+        << Values{20, 30, 40, 50, 60, 70, 80, 90, 200, 300, 400, 500};
+    QTest::newRow("between two ticks") << Values{10, 100} << 30.0 << 70.0 << Values{}
+                                       << Values{30, 40, 50, 60, 70};
+    QTest::newRow("zero width on a tick")
+        << Values{10, 100, 1000} << 100.0 << 100.0 << Values{100} << Values{};
+    QTest::newRow("ends on ticks") << Values{10, 100, 1000} << 100.0 << 1000.0
+                                   << Values{100, 1000}
+                                   << Values{200, 300, 400, 500, 600, 700, 800, 900};
+    QTest::newRow("below every tick") << Values{10, 100} << 1.0 << 5.0 << Values{} << Values{};
+    QTest::newRow("above every tick") << Values{10, 100} << 200.0 << 300.0 << Values{}
+                                      << Values{};
 }
 
-void tst_CustomAxisTicker::rangeBetweenTwoTicks()
+void tst_CustomAxisTicker::generate()
 {
+    QFETCH(Values, tickValues);
+    QFETCH(double, min);
+    QFETCH(double, max);
+    QFETCH(Values, ticks);
+    QFETCH(Values, subTicks);
     CustomAxisTicker ticker;
-    addTicks(ticker, {10, 100});
+    addTicks(ticker, tickValues);
     ticker.setSubTickCount(8);
-    const Generated result = generated(ticker, 30.0, 70.0);
-    COMPARE_VALUES(result.ticks, Values{});
-    COMPARE_VALUES(result.subTicks, (Values{30, 40, 50, 60, 70}));
-}
-
-void tst_CustomAxisTicker::zeroWidthRangeOnATick()
-{
-    CustomAxisTicker ticker;
-    addTicks(ticker, {10, 100, 1000});
-    ticker.setSubTickCount(8);
-    const Generated result = generated(ticker, 100.0, 100.0);
-    COMPARE_VALUES(result.ticks, Values{100});
-    COMPARE_VALUES(result.subTicks, Values{});
+    const Generated result = generated(ticker, min, max);
+    COMPARE_VALUES(result.ticks, ticks);
+    COMPARE_VALUES(result.subTicks, subTicks);
 }
 
 void tst_CustomAxisTicker::tickWithoutLabelIsEmpty()
