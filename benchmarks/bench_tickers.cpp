@@ -138,15 +138,20 @@ void runPeer(benchmark::State &state, QCPAxisTicker &ticker, const Ranges &range
 #endif
 
 // CPU time per iteration of every finished run, by name, for the ratios at the end. With
-// --benchmark_repetitions, the median of the repetitions is compared.
+// --benchmark_repetitions, the median of the repetitions is compared (also when only the
+// aggregates are reported).
 class RatioReporter : public benchmark::ConsoleReporter
 {
 public:
     void ReportRuns(const std::vector<Run> &runs) override
     {
         for (const Run &run : runs) {
-            if (run.run_type == Run::RT_Iteration && !run.error_occurred)
+            if (run.error_occurred)
+                continue;
+            if (run.run_type == Run::RT_Iteration)
                 m_cpuTimes[run.run_name.str()].push_back(run.GetAdjustedCPUTime());
+            else if (run.aggregate_name == "median")
+                m_medians[run.run_name.str()] = run.GetAdjustedCPUTime();
         }
         ConsoleReporter::ReportRuns(runs);
     }
@@ -165,6 +170,9 @@ public:
 private:
     double median(const std::string &name) const
     {
+        const auto reported = m_medians.find(name);
+        if (reported != m_medians.end())
+            return reported->second;
         const auto found = m_cpuTimes.find(name);
         if (found == m_cpuTimes.end())
             return 0.0;
@@ -174,6 +182,7 @@ private:
     }
 
     std::map<std::string, std::vector<double>> m_cpuTimes;
+    std::map<std::string, double> m_medians;
 };
 
 
