@@ -1,10 +1,15 @@
 #ifndef KO_QTTOOLKIT_TESTS_CHARTTESTSUPPORT_H
 #define KO_QTTOOLKIT_TESTS_CHARTTESTSUPPORT_H
 
+#include <ko/qtToolkit/charts/AxisTicker.h>
+#include <ko/qtToolkit/charts/CartesianChartAxis.h>
 #include <ko/qtToolkit/charts/ChartHelpers_p.h>
 
 #include <QApplication>
+#include <QGraphicsItemGroup>
+#include <QGraphicsLineItem>
 #include <QGraphicsScene>
+#include <QGraphicsTextItem>
 #include <QImage>
 #include <QPainter>
 #include <QtCharts/QAbstractAxis>
@@ -79,6 +84,49 @@ private:
     QGraphicsScene m_scene;
     QtCharts::QChart *m_chart;
     QSizeF m_size;
+};
+
+inline QGraphicsLineItem *lineAt(QGraphicsItemGroup *group, int index)
+{
+    return static_cast<QGraphicsLineItem *>(group->childItems().at(index));
+}
+
+inline QGraphicsTextItem *textAt(QGraphicsItemGroup *group, int index)
+{
+    return static_cast<QGraphicsTextItem *>(group->childItems().at(index));
+}
+
+/// One tick of an axis element with its grid line, tick mark and label.
+struct Tick
+{
+    qreal value;
+    QGraphicsLineItem *grid;
+    QGraphicsLineItem *mark;
+    QGraphicsTextItem *label;
+};
+
+/// The major ticks of \a element, then its minor ticks.
+inline QVector<Tick> ticksOf(charts::CartesianChartAxis *element)
+{
+    QVector<Tick> ticks;
+    for (int i = 0; i < element->majorTickValues().size(); ++i) {
+        // The axis line comes first in the arrow group.
+        ticks.append({element->majorTickValues().at(i), lineAt(element->gridGroup(), i),
+                      lineAt(element->arrowGroup(), i + 1), textAt(element->labelGroup(), i)});
+    }
+    for (int j = 0; j < element->minorTickValues().size(); ++j) {
+        ticks.append({element->minorTickValues().at(j), lineAt(element->minorGridGroup(), j),
+                      lineAt(element->minorArrowGroup(), j),
+                      static_cast<QGraphicsTextItem *>(element->minorLabelItems().at(j))});
+    }
+    return ticks;
+}
+
+/// A ticker that finds no tick at all.
+class EmptyTicker : public charts::AxisTicker
+{
+public:
+    QVector<double> createTicks(double, double, double) const override { return {}; }
 };
 
 } // namespace ko::qtToolkit::test
