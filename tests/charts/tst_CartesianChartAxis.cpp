@@ -277,15 +277,26 @@ private Q_SLOTS:
             QCOMPARE(static_cast<QGraphicsTextItem *>(item)->defaultTextColor(), QColor(Qt::red));
     }
 
+    void labelItemsStyle_data()
+    {
+        QTest::addColumn<bool>("changedLater");
+        QTest::newRow("set before the items exist") << false;
+        QTest::newRow("changed afterwards") << true;
+    }
+
     void labelItemsStyle()
     {
+        QFETCH(bool, changedLater);
+
         TestChart chart;
         auto *axis = chart.addAxis(new LogarithmicAxis, Qt::AlignBottom);
         axis->setRange(1.0, 1000.0);
+        axis->setMinorLabelsColor(Qt::magenta);
         const QFont font = ko::qtToolkit::test::fixedFont(11);
+        if (changedLater)
+            chart.layout();
         axis->setLabelsFont(font);
         axis->setLabelsAngle(30);
-        axis->setMinorLabelsColor(Qt::magenta);
         chart.layout();
         auto *element = TestChart::element<CartesianChartAxis>(*axis);
         QVERIFY(!element->minorLabelItems().isEmpty());

@@ -69,6 +69,15 @@ CartesianChartAxis::CartesianChartAxis(QtCharts::QAbstractAxis *axis, QGraphicsI
     connect(axis, SIGNAL(visibleChanged(bool)), this, SLOT(handleVisibleChanged(bool)));
     connect(axis, SIGNAL(minorLabelsVisibleChanged(bool)), this, SLOT(handleMinorLabelsVisibleChanged(bool)));
     connect(axis, SIGNAL(minorLabelsColorChanged(QColor)), this, SLOT(handleMinorLabelsColorChanged(QColor)));
+    // The base restyles the major labels only.
+    connect(axis, &QtCharts::QAbstractAxis::labelsFontChanged, this, [this](const QFont &font) {
+        for (QGraphicsItem *item : minorLabelItems())
+            static_cast<QGraphicsTextItem *>(item)->setFont(font);
+    });
+    connect(axis, &QtCharts::QAbstractAxis::labelsAngleChanged, this, [this](int angle) {
+        for (QGraphicsItem *item : minorLabelItems())
+            item->setRotation(angle);
+    });
     m_minorLabelGroup->setZValue(minorLabelZValue);
     m_minorLabelGroup->setVisible(axis->isVisible() && minorLabelsVisible());
 }
@@ -303,6 +312,11 @@ QRectF CartesianChartAxis::setLabelText(QGraphicsTextItem *label, const QString 
     // Rotation by the labels angle turns a label about its middle.
     label->setTransformOriginPoint(label->boundingRect().center());
     return labelRect;
+}
+
+bool CartesianChartAxis::isTitleShown() const
+{
+    return !axis()->titleText().isEmpty() && titleItem()->isVisible();
 }
 
 QRectF CartesianChartAxis::labelBoundingRect(const QString &text, qreal angle) const

@@ -56,7 +56,6 @@ public:
 
     /// The minor label texts currently shown.
     QStringList minorLabels() const { return m_minorLabels; }
-    void setMinorLabels(const QStringList &labels) { m_minorLabels = labels; }
 
     /// The group of the minor labels, one QGraphicsTextItem per minor tick.
     QGraphicsItemGroup *minorLabelGroup() const { return m_minorLabelGroup; }
@@ -113,6 +112,9 @@ protected:
     QRectF setLabelText(QGraphicsTextItem *label, const QString &text, qreal maxWidth,
                         qreal maxHeight) const;
 
+    /// Whether the axis has a title and shows it.
+    bool isTitleShown() const;
+
     /// The bounding rectangle of \a text in the axis's labels font, turned by \a angle, as
     /// ChartPresenter::textBoundingRect() gives it; remembered, since laying out a text is the
     /// costly part of every layout pass and most labels keep their texts from pass to pass.
@@ -127,6 +129,17 @@ private:
     void deleteMinorItems(int count);
     QColor minorLabelsColor() const;
     bool minorLabelsVisible() const;
+    void dropStaleLabelTexts() const;
+
+    // A label text as truncated for the given limits.
+    struct Truncation
+    {
+        qreal angle = 0.0;
+        qreal maxWidth = 0.0;
+        qreal maxHeight = 0.0;
+        QString shown;
+        QRectF rect;
+    };
 
     QGraphicsItemGroup *m_minorLabelGroup;
     QStringList m_minorLabels;
@@ -137,15 +150,6 @@ private:
     mutable QStringList m_pendingLabels;
     mutable QStringList m_pendingMinorLabels;
     // Measured and truncated label texts, for the labels font they were measured in.
-    struct Truncation
-    {
-        qreal angle = 0.0;
-        qreal maxWidth = 0.0;
-        qreal maxHeight = 0.0;
-        QString shown;
-        QRectF rect;
-    };
-    void dropStaleLabelTexts() const;
     mutable QHash<QPair<QString, qreal>, QRectF> m_labelRects;
     mutable QHash<QString, Truncation> m_truncations;
     mutable QFont m_labelTextsFont;

@@ -34,10 +34,9 @@ void HorizontalAxis::updateGeometry()
     qreal availableSpace = axisRect.height() - labelPadding();
     QGraphicsTextItem *title = titleItem();
     const QString titleText = axis()->titleText();
-    if (!titleText.isEmpty() && title->isVisible()) {
+    if (isTitleShown()) {
         availableSpace -= 2.0 * titlePadding();
-        const qreal minimumLabelHeight =
-            labelBoundingRect(QStringLiteral("..."), 0.0).height();
+        const qreal minimumLabelHeight = labelBoundingRect(QStringLiteral("..."), 0.0).height();
         const qreal titleSpace = availableSpace - minimumLabelHeight;
         QRectF titleBoundingRect;
         title->setHtml(QtCharts::ChartPresenter::truncatedText(axis()->titleFont(), titleText, 0.0, gridRect.width(),
@@ -97,7 +96,7 @@ QSizeF HorizontalAxis::sizeHint(Qt::SizeHint which, const QSizeF &constraint) co
 
     QSizeF titleSize(0.0, 0.0);
     const QString titleText = axis()->titleText();
-    if (!titleText.isEmpty() && titleItem()->isVisible()) {
+    if (isTitleShown()) {
         if (which == Qt::MinimumSize) {
             const QRectF r =
                 QtCharts::ChartPresenter::textBoundingRect(axis()->titleFont(), QStringLiteral("..."), 0.0);
@@ -110,8 +109,7 @@ QSizeF HorizontalAxis::sizeHint(Qt::SizeHint which, const QSizeF &constraint) co
 
     switch (which) {
     case Qt::MinimumSize: {
-        const QRectF r =
-            labelBoundingRect(QStringLiteral("..."), axis()->labelsAngle());
+        const QRectF r = labelBoundingRect(QStringLiteral("..."), axis()->labelsAngle());
         return QSizeF(r.width() / 2.0, r.height() + labelPadding() + titleSize.height() + 1.0);
     }
     case Qt::PreferredSize: {
@@ -120,8 +118,7 @@ QSizeF HorizontalAxis::sizeHint(Qt::SizeHint which, const QSizeF &constraint) co
         qreal firstWidth = -1.0;
         qreal lastWidth = titleSize.width();
         for (int i = 0; i < labels.size(); ++i) {
-            const QRectF r =
-                labelBoundingRect(labels.at(i), axis()->labelsAngle());
+            const QRectF r = labelBoundingRect(labels.at(i), axis()->labelsAngle());
             labelHeight = std::max(labelHeight, r.height());
             if (i == 0)
                 firstWidth = r.width();

@@ -1,35 +1,15 @@
 #include <ko/qtToolkit/charts/LinearAxis.h>
 
-#include <ko/qtToolkit/charts/AxisTicker.h>
-#include <ko/qtToolkit/charts/CartesianChartAxis.h>
+#include <ko/qtToolkit/charts/TickedAxisPrivate.h>
 
-#include <QBrush>
-#include <QtCharts/private/qchart_p.h>
 #include <QtCharts/private/qvalueaxis_p.h>
 
 namespace ko::qtToolkit::charts {
 
-class LinearAxisPrivate : public QtCharts::QValueAxisPrivate
+class LinearAxisPrivate : public TickedAxisPrivate<QtCharts::QValueAxisPrivate>
 {
 public:
-    explicit LinearAxisPrivate(LinearAxis *q)
-        : QValueAxisPrivate(q)
-    {
-    }
-
-    void initializeGraphics(QGraphicsItem *parent) override
-    {
-        Q_Q(LinearAxis);
-        m_item.reset(createAxisElement(q, m_chart->chartType(), parent));
-        QAbstractAxisPrivate::initializeGraphics(parent);
-    }
-
-    AxisTicker defaultTicker;
-    AxisTicker *currentTicker = &defaultTicker;
-    bool minorLabelsVisible = true;
-    QBrush minorLabelsBrush = QtCharts::QChartPrivate::defaultBrush();
-
-    Q_DECLARE_PUBLIC(LinearAxis)
+    using TickedAxisPrivate::TickedAxisPrivate;
 };
 
 LinearAxis::LinearAxis(QObject *parent)
@@ -41,44 +21,34 @@ LinearAxis::~LinearAxis() = default;
 
 void LinearAxis::setTicker(AxisTicker *ticker)
 {
-    Q_D(LinearAxis);
-    d->currentTicker = ticker ? ticker : &d->defaultTicker;
+    d_func()->setTicker(ticker);
 }
 
 AxisTicker *LinearAxis::ticker() const
 {
-    Q_D(const LinearAxis);
-    return d->currentTicker;
+    return d_func()->currentTicker;
 }
 
 bool LinearAxis::minorLabelsVisible() const
 {
-    Q_D(const LinearAxis);
-    return d->minorLabelsVisible;
+    return d_func()->minorLabelsVisible;
 }
 
 void LinearAxis::setMinorLabelsVisible(bool visible)
 {
-    Q_D(LinearAxis);
-    if (d->minorLabelsVisible == visible)
-        return;
-    d->minorLabelsVisible = visible;
-    Q_EMIT minorLabelsVisibleChanged(visible);
+    if (d_func()->setMinorLabelsVisible(visible))
+        Q_EMIT minorLabelsVisibleChanged(visible);
 }
 
 QColor LinearAxis::minorLabelsColor() const
 {
-    Q_D(const LinearAxis);
-    return d->minorLabelsBrush.color();
+    return d_func()->minorLabelsBrush.color();
 }
 
 void LinearAxis::setMinorLabelsColor(const QColor &color)
 {
-    Q_D(LinearAxis);
-    if (d->minorLabelsBrush.color() == color)
-        return;
-    d->minorLabelsBrush.setColor(color);
-    Q_EMIT minorLabelsColorChanged(color);
+    if (d_func()->setMinorLabelsColor(color))
+        Q_EMIT minorLabelsColorChanged(color);
 }
 
 } // namespace ko::qtToolkit::charts

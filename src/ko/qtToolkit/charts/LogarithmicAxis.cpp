@@ -1,35 +1,15 @@
 #include <ko/qtToolkit/charts/LogarithmicAxis.h>
 
-#include <ko/qtToolkit/charts/AxisTicker.h>
-#include <ko/qtToolkit/charts/CartesianChartAxis.h>
+#include <ko/qtToolkit/charts/TickedAxisPrivate.h>
 
-#include <QBrush>
-#include <QtCharts/private/qchart_p.h>
 #include <QtCharts/private/qlogvalueaxis_p.h>
 
 namespace ko::qtToolkit::charts {
 
-class LogarithmicAxisPrivate : public QtCharts::QLogValueAxisPrivate
+class LogarithmicAxisPrivate : public TickedAxisPrivate<QtCharts::QLogValueAxisPrivate>
 {
 public:
-    explicit LogarithmicAxisPrivate(LogarithmicAxis *q)
-        : QLogValueAxisPrivate(q)
-    {
-    }
-
-    void initializeGraphics(QGraphicsItem *parent) override
-    {
-        Q_Q(LogarithmicAxis);
-        m_item.reset(createAxisElement(q, m_chart->chartType(), parent));
-        QAbstractAxisPrivate::initializeGraphics(parent);
-    }
-
-    AxisTicker defaultTicker;
-    AxisTicker *currentTicker = &defaultTicker;
-    bool minorLabelsVisible = true;
-    QBrush minorLabelsBrush = QtCharts::QChartPrivate::defaultBrush();
-
-    Q_DECLARE_PUBLIC(LogarithmicAxis)
+    using TickedAxisPrivate::TickedAxisPrivate;
 };
 
 LogarithmicAxis::LogarithmicAxis(QObject *parent)
@@ -41,44 +21,34 @@ LogarithmicAxis::~LogarithmicAxis() = default;
 
 void LogarithmicAxis::setTicker(AxisTicker *ticker)
 {
-    Q_D(LogarithmicAxis);
-    d->currentTicker = ticker ? ticker : &d->defaultTicker;
+    d_func()->setTicker(ticker);
 }
 
 AxisTicker *LogarithmicAxis::ticker() const
 {
-    Q_D(const LogarithmicAxis);
-    return d->currentTicker;
+    return d_func()->currentTicker;
 }
 
 bool LogarithmicAxis::minorLabelsVisible() const
 {
-    Q_D(const LogarithmicAxis);
-    return d->minorLabelsVisible;
+    return d_func()->minorLabelsVisible;
 }
 
 void LogarithmicAxis::setMinorLabelsVisible(bool visible)
 {
-    Q_D(LogarithmicAxis);
-    if (d->minorLabelsVisible == visible)
-        return;
-    d->minorLabelsVisible = visible;
-    Q_EMIT minorLabelsVisibleChanged(visible);
+    if (d_func()->setMinorLabelsVisible(visible))
+        Q_EMIT minorLabelsVisibleChanged(visible);
 }
 
 QColor LogarithmicAxis::minorLabelsColor() const
 {
-    Q_D(const LogarithmicAxis);
-    return d->minorLabelsBrush.color();
+    return d_func()->minorLabelsBrush.color();
 }
 
 void LogarithmicAxis::setMinorLabelsColor(const QColor &color)
 {
-    Q_D(LogarithmicAxis);
-    if (d->minorLabelsBrush.color() == color)
-        return;
-    d->minorLabelsBrush.setColor(color);
-    Q_EMIT minorLabelsColorChanged(color);
+    if (d_func()->setMinorLabelsColor(color))
+        Q_EMIT minorLabelsColorChanged(color);
 }
 
 } // namespace ko::qtToolkit::charts

@@ -41,10 +41,9 @@ void VerticalAxis::updateGeometry()
     qreal availableSpace = axisRect.height() - labelPadding();
     QGraphicsTextItem *title = titleItem();
     const QString titleText = axis()->titleText();
-    if (!titleText.isEmpty() && title->isVisible()) {
+    if (isTitleShown()) {
         availableSpace -= 2.0 * titlePadding();
-        const qreal minimumLabelHeight =
-            labelBoundingRect(QStringLiteral("..."), 0.0).height();
+        const qreal minimumLabelHeight = labelBoundingRect(QStringLiteral("..."), 0.0).height();
         const qreal titleSpace = availableSpace - minimumLabelHeight;
         QRectF titleBoundingRect;
         title->setHtml(QtCharts::ChartPresenter::truncatedText(axis()->titleFont(), titleText, 90.0, titleSpace,
@@ -107,7 +106,7 @@ QSizeF VerticalAxis::sizeHint(Qt::SizeHint which, const QSizeF &constraint) cons
 
     QSizeF titleSize(0.0, 0.0);
     const QString titleText = axis()->titleText();
-    if (!titleText.isEmpty() && titleItem()->isVisible()) {
+    if (isTitleShown()) {
         // The title is turned upright, so its text height is the width it takes.
         if (which == Qt::MinimumSize) {
             const QRectF r =
@@ -121,8 +120,7 @@ QSizeF VerticalAxis::sizeHint(Qt::SizeHint which, const QSizeF &constraint) cons
 
     switch (which) {
     case Qt::MinimumSize: {
-        const QRectF r =
-            labelBoundingRect(QStringLiteral("..."), axis()->labelsAngle());
+        const QRectF r = labelBoundingRect(QStringLiteral("..."), axis()->labelsAngle());
         return QSizeF(titleSize.width() + r.width() + labelPadding() + 1.0, r.height() / 2.0);
     }
     case Qt::PreferredSize: {
@@ -131,8 +129,7 @@ QSizeF VerticalAxis::sizeHint(Qt::SizeHint which, const QSizeF &constraint) cons
         qreal firstHeight = -1.0;
         qreal lastHeight = titleSize.height();
         for (int i = 0; i < labels.size(); ++i) {
-            const QRectF r =
-                labelBoundingRect(labels.at(i), axis()->labelsAngle());
+            const QRectF r = labelBoundingRect(labels.at(i), axis()->labelsAngle());
             labelWidth = std::max(labelWidth, r.width());
             if (i == 0)
                 firstHeight = r.height();
