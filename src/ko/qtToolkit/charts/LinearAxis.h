@@ -48,14 +48,18 @@ public:
 
     /// Whether labels are shown at the minor ticks; true by default.
     bool minorLabelsVisible() const;
+    /// Shows or hides the minor labels; they stay hidden while the axis is hidden.
     void setMinorLabelsVisible(bool visible);
 
     /// The colour of the minor labels; by default that of Qt Charts' default brush.
     QColor minorLabelsColor() const;
+    /// Gives the minor labels, shown ones included, the colour \a color.
     void setMinorLabelsColor(const QColor &color);
 
 Q_SIGNALS:
+    /// The minor labels were shown or hidden.
     void minorLabelsVisibleChanged(bool visible);
+    /// The minor labels got another colour.
     void minorLabelsColorChanged(const QColor &color);
 
 private:
