@@ -2,6 +2,8 @@
 #include <ko/qtToolkit/charts/CustomAxisTicker.h>
 #include <ko/qtToolkit/charts/LogarithmicAxisTicker.h>
 
+#include "TickerTestSupport.h"
+
 #include <QTest>
 
 #include <algorithm>
@@ -14,78 +16,9 @@
 using ko::qtToolkit::charts::AxisTicker;
 using ko::qtToolkit::charts::CustomAxisTicker;
 using ko::qtToolkit::charts::LogarithmicAxisTicker;
-
-using Values = QVector<double>;
+using namespace tickerTest;
 
 namespace {
-
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-
-// What the tickers promise to allocate at most.
-constexpr int maximumTicks = 500;
-constexpr int maximumSubTicks = 5000;
-
-bool same(double a, double b)
-{
-    return a == b || (std::isnan(a) && std::isnan(b));
-}
-
-QString describe(double value)
-{
-    return QString::number(value, 'g', 17);
-}
-
-QString describe(const Values &values)
-{
-    QStringList parts;
-    for (const double value : values)
-        parts << describe(value);
-    return QLatin1Char('{') + parts.join(QStringLiteral(", ")) + QLatin1Char('}');
-}
-
-bool nearlyEqual(const Values &a, const Values &b)
-{
-    if (a.size() != b.size())
-        return false;
-    for (int i = 0; i < a.size(); ++i) {
-        if (std::abs(a[i] - b[i]) > 1e-12)
-            return false;
-    }
-    return true;
-}
-
-// Collects the messages logged while it lives, instead of printing them: all of them, or each
-// distinct text once.
-class MessageLog
-{
-public:
-    enum Mode { Every, Distinct };
-
-    explicit MessageLog(Mode mode = Every)
-    {
-        s_mode = mode;
-        s_messages.clear();
-        m_previous = qInstallMessageHandler(&MessageLog::handle);
-    }
-    ~MessageLog() { qInstallMessageHandler(m_previous); }
-
-    QStringList messages() const { return s_messages; }
-
-private:
-    static void handle(QtMsgType, const QMessageLogContext &, const QString &message)
-    {
-        if (s_mode == Every || !s_messages.contains(message))
-            s_messages.append(message);
-    }
-
-    static Mode s_mode;
-    static QStringList s_messages;
-    QtMessageHandler m_previous;
-};
-
-MessageLog::Mode MessageLog::s_mode = MessageLog::Every;
-QStringList MessageLog::s_messages;
 
 // A ticker with a step of its own choosing, to put ranges between two ticks.
 class FixedStepTicker : public AxisTicker
@@ -100,19 +33,6 @@ public:
 private:
     double m_step;
 };
-
-struct Generated
-{
-    Values ticks;
-    Values subTicks;
-};
-
-Generated generated(const AxisTicker &ticker, double min, double max)
-{
-    Generated result;
-    ticker.generate(min, max, result.ticks, result.subTicks);
-    return result;
-}
 
 // The linear algorithm written down step by step without any limit, for ranges whose grid is
 // small enough to build: the results of AxisTicker must be these wherever the grid stays sane.
@@ -219,24 +139,6 @@ struct Reference
 
 } // namespace
 
-#define COMPARE_VALUES(actual, expected)                                                          \
-    do {                                                                                          \
-        const Values actualValues = (actual);                                                     \
-        const Values expectedValues = (expected);                                                 \
-        QVERIFY2(actualValues == expectedValues,                                                  \
-                 qPrintable(QStringLiteral("\n   Actual:   %1\n   Expected: %2")                  \
-                                .arg(describe(actualValues), describe(expectedValues))));         \
-    } while (false)
-
-#define COMPARE_DOUBLE(actual, expected)                                                          \
-    do {                                                                                          \
-        const double actualValue = (actual);                                                      \
-        const double expectedValue = (expected);                                                  \
-        QVERIFY2(same(actualValue, expectedValue),                                                \
-                 qPrintable(QStringLiteral("actual %1, expected %2")                              \
-                                .arg(describe(actualValue), describe(expectedValue))));           \
-    } while (false)
-
 class tst_AxisTicker : public QObject
 {
     Q_OBJECT
@@ -277,6 +179,7 @@ private Q_SLOTS:
     void generateLabelsClearsAndFills();
     void labelFormat_data();
     void labelFormat();
+    void labelFormatIsPrintf();
     void labelFormatRefused_data();
     void labelFormatRefused();
 
@@ -646,9 +549,10 @@ void tst_AxisTicker::createTicksGrid_data()
     QTest::newRow("0 .. 100 by 30") << 30.0 << 0.0 << 100.0 << 0.0 << -1 << 6;
     QTest::newRow("origin 0.5") << 1.0 << 0.0 << 3.0 << 0.5 << -2 << 7;
     QTest::newRow("zero width on a tick") << 1.0 << 2.0 << 2.0 << 0.0 << 1 << 3;
-    // The grid from the floored and ceiled distances would hold 336 ticks: still built.
-    QTest::newRow("0 .. 0.01 by 0.003") << 0.003 << 0.0 << 0.01 << 0.0 << -1 << 336;
-    // Here it would hold 3336: only the ticks around the range are created.
+    // The grid from the floored and ceiled distances holds 63 ticks: still built.
+    QTest::newRow("0 .. 0.05 by 0.0165") << 0.0165 << 0.0 << 0.05 << 0.0 << -1 << 63;
+    // Here it would hold 65, or 3336: only the ticks around the range are created.
+    QTest::newRow("0 .. 0.05 by 0.016") << 0.016 << 0.0 << 0.05 << 0.0 << -1 << 7;
     QTest::newRow("0 .. 0.001 by 0.0003") << 0.0003 << 0.0 << 0.001 << 0.0 << -1 << 7;
     QTest::newRow("0 .. 1e-12 by 3e-13") << 3e-13 << 0.0 << 1e-12 << 0.0 << -1 << 7;
     QTest::newRow("2 .. 2.5 by 0.125 in a grid of 4 .. 0")
@@ -884,6 +788,15 @@ void tst_AxisTicker::generateLabelsClearsAndFills()
     QCOMPARE(labels,
              QStringList({QStringLiteral("-1.50"), QStringLiteral("0.00"), QStringLiteral("2.35"),
                           QStringLiteral("1000000.00")}));
+
+    ticker.generateLabels(Values{7, 8}, labels);
+    QCOMPARE(labels, QStringList({QStringLiteral("7.00"), QStringLiteral("8.00")}));
+
+    // A list shared with another one leaves that one as it was.
+    const QStringList copy = labels;
+    ticker.generateLabels(Values{9}, labels);
+    QCOMPARE(labels, QStringList{QStringLiteral("9.00")});
+    QCOMPARE(copy, QStringList({QStringLiteral("7.00"), QStringLiteral("8.00")}));
 }
 
 void tst_AxisTicker::labelFormat_data()
@@ -919,6 +832,24 @@ void tst_AxisTicker::labelFormat()
     QStringList labels;
     ticker.generateLabels(Values{value}, labels);
     QCOMPARE(labels, QStringList{expected});
+}
+
+void tst_AxisTicker::labelFormatIsPrintf()
+{
+    // Whatever shortcut formats a label, the text is the one of the printf-style format.
+    std::mt19937_64 random(7);
+    Values values{0.0,   -0.0,    0.5,     1.5,     2.5,      -2.5,     0.125,   1.005,
+                  2.675, 1e-7,    -1e-7,   1e15,    1e21,     DBL_MAX,  -DBL_MAX, DBL_MIN,
+                  5e-324, infinity, -infinity, notANumber, 123456.789, 0.045, 999.9999999};
+    std::uniform_real_distribution<double> exponent(-20.0, 25.0);
+    for (int i = 0; i < 2000; ++i)
+        values.append((i % 2 ? -1.0 : 1.0) * std::pow(10.0, exponent(random)));
+    AxisTicker ticker;
+    for (const char *format : {"%.0f", "%.1f", "%.2f", "%.3f", "%.9f", "%.2e", "%g", "%.1f%%"}) {
+        ticker.setLabelFormat(QString::fromLatin1(format));
+        for (const double value : values)
+            QCOMPARE(ticker.tickLabel(value), QString::asprintf(format, value));
+    }
 }
 
 void tst_AxisTicker::labelFormatRefused_data()

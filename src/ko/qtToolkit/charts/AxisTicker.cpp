@@ -18,6 +18,10 @@ constexpr double ln10 = 2.302585092994046;
 // Tick indices are kept well inside the 64-bit range so that index arithmetic cannot overflow.
 constexpr double largestTickIndex = 4611686018427387904.0; // 2^62
 
+// Beyond this size the grid from the floored and ceiled distances is mostly ticks that trimming
+// drops again; the ticks around the range are created instead.
+constexpr int largestFlooredGrid = 64;
+
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 bool fitIndexRange(double first, double last)
@@ -165,10 +169,17 @@ void AxisTicker::generate(double min, double max, QVector<double> &ticks,
 
 void AxisTicker::generateLabels(const QVector<double> &ticks, QStringList &labels) const
 {
-    labels.clear();
-    labels.reserve(ticks.size());
-    for (const double tick : ticks)
-        labels.append(tickLabel(tick));
+    // The list is reused rather than cleared: the axis passes the same one at every layout.
+    const int count = ticks.size();
+    if (labels.size() > count)
+        labels.erase(labels.begin() + count, labels.end());
+    labels.reserve(count);
+    for (int i = 0; i < count; ++i) {
+        if (i < labels.size())
+            labels[i] = tickLabel(ticks[i]);
+        else
+            labels.append(tickLabel(ticks[i]));
+    }
 }
 
 double AxisTicker::computeTickStep(double min, double max) const
@@ -202,7 +213,13 @@ int AxisTicker::computeSubTickCount(double tickStep) const
 
 QString AxisTicker::tickLabel(double value) const
 {
-    return QString::asprintf(m_labelFormat.constData(), value);
+    // "%.<digit>f" (the default "%.2f" among them) formats exactly as QString::number does, which
+    // saves parsing the format for every label.
+    const char *format = m_labelFormat.constData();
+    if (m_labelFormat.size() == 4 && format[0] == '%' && format[1] == '.' && format[2] >= '0'
+        && format[2] <= '9' && format[3] == 'f')
+        return QString::number(value, 'f', format[2] - '0');
+    return QString::asprintf(format, value);
 }
 
 QVector<double> AxisTicker::createTicks(double tickStep, double min, double max) const
@@ -213,9 +230,9 @@ QVector<double> AxisTicker::createTicks(double tickStep, double min, double max)
     // reaches further out than needed and generate() trims it.
     const double first = std::trunc(std::floor(min - m_tickOrigin) / tickStep);
     const double last = std::trunc(std::ceil(max - m_tickOrigin) / tickStep);
-    if (fitIndexRange(first, last) && last - first + 3 <= tickLimits::maximumTicks)
+    if (fitIndexRange(first, last) && last - first + 3 <= largestFlooredGrid)
         return tickGrid(qint64(first) - 1, qint64(last) + 1, tickStep, m_tickOrigin);
-    // A narrow range far from whole numbers would make that grid huge. The ticks one step
+    // Narrow ranges would make that grid large, up to astronomically so. The ticks one step
     // beyond each end are all that trimming keeps of it, so only they are created.
     const double below = std::floor((min - m_tickOrigin) / tickStep);
     const double above = std::ceil((max - m_tickOrigin) / tickStep);
@@ -226,13 +243,14 @@ QVector<double> AxisTicker::createTicks(double tickStep, double min, double max)
 
 QVector<double> AxisTicker::createSubTicks(int subTickCount, const QVector<double> &ticks) const
 {
-    QVector<double> subTicks;
     if (subTickCount < 1 || ticks.size() < 2)
-        return subTicks;
+        return {};
     const qint64 total = qint64(ticks.size() - 1) * subTickCount;
     if (total > tickLimits::maximumSubTicks)
-        return subTicks;
-    subTicks.reserve(int(total));
+        return {};
+    QVector<double> subTicks(static_cast<int>(total));
+    double *const out = subTicks.data();
+    int count = 0;
     const int intervals = subTickCount + 1;
     for (int i = 1; i < ticks.size(); ++i) {
         const double previous = ticks[i - 1];
@@ -246,11 +264,12 @@ QVector<double> AxisTicker::createSubTicks(int subTickCount, const QVector<doubl
         for (int k = 1; k <= subTickCount; ++k) {
             const double subTick = previous + k * subStep;
             if (subTick > lowest && subTick < next) {
-                subTicks.append(subTick);
+                out[count++] = subTick;
                 lowest = subTick;
             }
         }
     }
+    subTicks.resize(count);
     return subTicks;
 }
 

@@ -153,7 +153,7 @@ public:
      * With first = trunc(floor(min - origin) / step) and last = trunc(ceil(max - origin) / step),
      * the ticks are (j × step + origin) for j from first - 1 to last + 1, ascending. Because floor
      * and ceil act on the distances and not on the quotients, steps below 1 give more ticks than
-     * needed. When that grid would hold more than 500 ticks, or its indices would leave the 64-bit
+     * needed. When that grid would hold more than 64 ticks, or its indices would leave the 64-bit
      * range, only the ticks from one step below \a min to one step above \a max are created,
      * which gives the same result after trimming; when even those would be more than 500, the
      * result is empty. A step that is not a positive finite number, min > max and a non-finite
