@@ -1,0 +1,181 @@
+// Chart axes: a linear time axis and a logarithmic level axis whose ticks come from their
+// tickers, with labels at the minor ticks. Drag the plot to pan, turn the wheel to zoom.
+
+#include "GalleryPage.h"
+
+#include <ko/qtToolkit/charts/AxisTicker.h>
+#include <ko/qtToolkit/charts/ChartHelpers.h>
+#include <ko/qtToolkit/charts/LinearAxis.h>
+#include <ko/qtToolkit/charts/LogarithmicAxis.h>
+#include <ko/qtToolkit/charts/LogarithmicAxisTicker.h>
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+#include <QtCharts/QChartView>
+#include <QtCharts/QLineSeries>
+
+#include <cmath>
+
+namespace {
+
+namespace charts = ko::qtToolkit::charts;
+
+constexpr double timeMin = 0.0;
+constexpr double timeMax = 100.0;
+constexpr double levelMin = 1.0;
+constexpr double levelMax = 10000.0;
+
+// A chart view that pans its two axes while the plot is dragged and zooms them about the
+// pointer when the wheel turns, through the library's axis helpers.
+class PanZoomChartView : public QtCharts::QChartView
+{
+public:
+    PanZoomChartView(QtCharts::QChart *chart, charts::LinearAxis *time, charts::LogarithmicAxis *level)
+        : QChartView(chart)
+        , m_time(time)
+        , m_level(level)
+    {
+        setRenderHint(QPainter::Antialiasing);
+        setMinimumSize(480, 320);
+    }
+
+    void resetView()
+    {
+        m_time->setRange(timeMin, timeMax);
+        m_level->setRange(levelMin, levelMax);
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override
+    {
+        if (event->button() != Qt::LeftButton) {
+            QChartView::mousePressEvent(event);
+            return;
+        }
+        m_dragging = true;
+        m_last = chartPoint(event->localPos());
+        setCursor(Qt::ClosedHandCursor);
+        event->accept();
+    }
+
+    void mouseMoveEvent(QMouseEvent *event) override
+    {
+        if (!m_dragging) {
+            QChartView::mouseMoveEvent(event);
+            return;
+        }
+        // The value under the pointer stays under it: the axes move by what lies between the
+        // last position and this one.
+        const QPointF point = chartPoint(event->localPos());
+        charts::translate(*m_time, charts::pixelToCoordDelta(*m_time, m_last.x(), point.x()), -1e9, 1e9);
+        charts::translate(*m_level, charts::pixelToCoordDelta(*m_level, m_last.y(), point.y()), 1e-3, 1e7);
+        m_last = point;
+        event->accept();
+    }
+
+    void mouseReleaseEvent(QMouseEvent *event) override
+    {
+        if (!m_dragging) {
+            QChartView::mouseReleaseEvent(event);
+            return;
+        }
+        m_dragging = false;
+        unsetCursor();
+        event->accept();
+    }
+
+    void wheelEvent(QWheelEvent *event) override
+    {
+        const QPointF point = chartPoint(event->position());
+        const double factor = event->angleDelta().y() > 0 ? 0.8 : 1.25;
+        charts::scale(*m_time, charts::pixelToCoord(*m_time, point.x()), factor, 0.5, 1e6);
+        charts::scale(*m_level, charts::pixelToCoord(*m_level, point.y()), factor, 1e-2, 1e7);
+        event->accept();
+    }
+
+private:
+    QPointF chartPoint(const QPointF &viewPoint) const
+    {
+        return chart()->mapFromScene(mapToScene(viewPoint.toPoint()));
+    }
+
+    charts::LinearAxis *m_time;
+    charts::LogarithmicAxis *m_level;
+    bool m_dragging = false;
+    QPointF m_last;
+};
+
+QtCharts::QLineSeries *createLevelSeries()
+{
+    auto *series = new QtCharts::QLineSeries;
+    series->setName(QStringLiteral("Level"));
+    for (int i = 0; i <= 400; ++i) {
+        const double t = timeMax * i / 400.0;
+        // Rising by a decade every 25 s, with a ripple.
+        series->append(t, std::pow(10.0, t / 25.0) * (1.0 + 0.4 * std::sin(t / 2.0)) + 1.0);
+    }
+    return series;
+}
+
+QWidget *createChartsPage()
+{
+    auto *chart = new QtCharts::QChart;
+    chart->legend()->hide();
+    chart->setTitle(QStringLiteral("Level over time"));
+
+    auto *time = new charts::LinearAxis;
+    time->setRange(timeMin, timeMax);
+    time->setTitleText(QStringLiteral("Time (s)"));
+    time->setLabelFormat(QStringLiteral("%.0f"));
+    time->ticker()->setTickCount(5);
+    time->setMinorLabelsColor(QColor(0x4a, 0x7a, 0xb5));
+
+    // Ticks at the powers of ten; axes never own their tickers, so this one lives as long as
+    // the gallery.
+    static charts::LogarithmicAxisTicker decades;
+    // Each label gets an equal share of the axis height: few minor ticks leave room for theirs.
+    decades.setSubTickCount(2);
+    auto *level = new charts::LogarithmicAxis;
+    level->setTicker(&decades);
+    level->setRange(levelMin, levelMax);
+    level->setTitleText(QStringLiteral("Level"));
+    level->setLabelFormat(QStringLiteral("%g"));
+    level->setMinorLabelsColor(QColor(0x4a, 0x7a, 0xb5));
+
+    chart->addAxis(time, Qt::AlignBottom);
+    chart->addAxis(level, Qt::AlignLeft);
+    auto *series = createLevelSeries();
+    chart->addSeries(series);
+    series->attachAxis(time);
+    series->attachAxis(level);
+
+    auto *view = new PanZoomChartView(chart, time, level);
+
+    auto *minorLabels = new QCheckBox(QStringLiteral("Minor labels"));
+    minorLabels->setChecked(true);
+    QObject::connect(minorLabels, &QCheckBox::toggled, time, &charts::LinearAxis::setMinorLabelsVisible);
+    QObject::connect(minorLabels, &QCheckBox::toggled, level, &charts::LogarithmicAxis::setMinorLabelsVisible);
+
+    auto *reset = new QPushButton(QStringLiteral("Reset view"));
+    QObject::connect(reset, &QPushButton::clicked, view, [view] { view->resetView(); });
+
+    auto *controls = new QHBoxLayout;
+    controls->addWidget(new QLabel(QStringLiteral("Drag the plot to pan, turn the wheel to zoom.")), 1);
+    controls->addWidget(minorLabels);
+    controls->addWidget(reset);
+
+    auto *page = new QWidget;
+    auto *layout = new QVBoxLayout(page);
+    layout->addWidget(view, 1);
+    layout->addLayout(controls);
+    return page;
+}
+
+const gallery::PageRegistration registration{10, QStringLiteral("Charts"), createChartsPage};
+
+} // namespace

@@ -1,0 +1,328 @@
+#include <ko/qtToolkit/charts/AxisTicker.h>
+
+#include "AxisTicker_p.h"
+
+#include <QtGlobal>
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+namespace ko::qtToolkit::charts {
+
+namespace {
+
+constexpr double ln10 = 2.302585092994046;
+
+// Tick indices are kept well inside the 64-bit range so that index arithmetic cannot overflow.
+constexpr double largestTickIndex = 4611686018427387904.0; // 2^62
+
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+
+bool fitIndexRange(double first, double last)
+{
+    return std::abs(first) <= largestTickIndex && std::abs(last) <= largestTickIndex;
+}
+
+// The ticks (j × step + origin) for j = first .. last.
+QVector<double> tickGrid(qint64 first, qint64 last, double step, double origin)
+{
+    const int count = int(last - first) + 1;
+    QVector<double> ticks(count);
+    for (int k = 0; k < count; ++k)
+        ticks[k] = double(first + k) * step + origin;
+    return ticks;
+}
+
+// What generate() can work with: few enough candidates, strictly ascending and without NaN.
+// Infinities can only stand at the ends and are trimmed away with the range.
+bool isUsable(const QVector<double> &ticks)
+{
+    if (ticks.size() > tickLimits::maximumTicks)
+        return false;
+    if (!ticks.isEmpty() && std::isnan(ticks.first()))
+        return false;
+    return std::adjacent_find(ticks.cbegin(), ticks.cend(),
+                              [](double a, double b) { return !(a < b); })
+        == ticks.cend();
+}
+
+// Whether QString::asprintf with this format and one double reads that double or nothing:
+// literal text, "%%" and at most one floating-point conversion. Like asprintf, it stops at the
+// first NUL byte.
+bool takesOneDouble(const QByteArray &format)
+{
+    const char *p = format.constData();
+    const auto skipDigits = [&p] {
+        int digits = 0;
+        for (; *p >= '0' && *p <= '9'; ++p)
+            ++digits;
+        return digits;
+    };
+    int conversions = 0;
+    while (*p) {
+        if (*p++ != '%')
+            continue;
+        if (*p == '%') {
+            ++p;
+            continue;
+        }
+        while (*p && std::strchr("-+ #0'", *p))
+            ++p;
+        if (skipDigits() > 3)
+            return false;
+        if (*p == '.') {
+            ++p;
+            if (skipDigits() > 3)
+                return false;
+        }
+        if (*p == 'l')
+            ++p;
+        if (!*p || !std::strchr("eEfFgGaA", *p))
+            return false;
+        ++p;
+        if (++conversions > 1)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+AxisTicker::~AxisTicker() = default;
+
+int AxisTicker::tickCount() const
+{
+    return m_tickCount;
+}
+
+void AxisTicker::setTickCount(int count)
+{
+    if (count <= 0) {
+        qWarning("tick count must be greater than zero");
+        return;
+    }
+    m_tickCount = count;
+}
+
+double AxisTicker::tickOrigin() const
+{
+    return m_tickOrigin;
+}
+
+void AxisTicker::setTickOrigin(double origin)
+{
+    m_tickOrigin = origin;
+}
+
+AxisTicker::TickStepStrategy AxisTicker::tickStepStrategy() const
+{
+    return m_tickStepStrategy;
+}
+
+void AxisTicker::setTickStepStrategy(TickStepStrategy strategy)
+{
+    m_tickStepStrategy = strategy;
+}
+
+void AxisTicker::setLabelFormat(const QString &format)
+{
+    // The axis element hands its format over at every layout.
+    const QByteArray bytes = format.toUtf8();
+    if (bytes == m_labelFormat)
+        return;
+    if (!takesOneDouble(bytes)) {
+        qWarning("AxisTicker::setLabelFormat: ignoring \"%s\": a label format takes at most one "
+                 "floating-point conversion",
+                 bytes.constData());
+        return;
+    }
+    m_labelFormat = bytes;
+}
+
+void AxisTicker::generate(double min, double max, QVector<double> &ticks,
+                          QVector<double> &subTicks) const
+{
+    if (!(min <= max) || !std::isfinite(min) || !std::isfinite(max)) {
+        ticks.clear();
+        subTicks.clear();
+        return;
+    }
+    const double step = computeTickStep(min, max);
+    ticks = createTicks(step, min, max);
+    if (!isUsable(ticks))
+        ticks.clear();
+    trimTicks(min, max, ticks, true);
+    if (ticks.isEmpty()) {
+        subTicks.clear();
+    } else {
+        subTicks = createSubTicks(computeSubTickCount(step), ticks);
+        trimTicks(min, max, subTicks, false);
+    }
+    trimTicks(min, max, ticks, false);
+}
+
+void AxisTicker::generateLabels(const QVector<double> &ticks, QStringList &labels) const
+{
+    labels.clear();
+    labels.reserve(ticks.size());
+    for (const double tick : ticks)
+        labels.append(tickLabel(tick));
+}
+
+double AxisTicker::computeTickStep(double min, double max) const
+{
+    const double divisor = m_tickCount + 1e-10;
+    double rawStep = (max - min) / divisor;
+    if (std::isinf(rawStep) && std::isfinite(min) && std::isfinite(max))
+        rawStep = max / divisor - min / divisor;
+    return cleanMantissa(rawStep, m_tickStepStrategy);
+}
+
+int AxisTicker::computeSubTickCount(double tickStep) const
+{
+    static constexpr int integerMantissaCounts[] = {4, 3, 2, 3, 4, 2, 6, 3, 2};
+    static constexpr int halfMantissaCounts[] = {2, 4, 4, 2, 4, 4, 2, 4, 4};
+    const double m = mantissa(tickStep, nullptr);
+    if (!std::isfinite(m))
+        return 1;
+    // m lies in [1, 10] up to rounding, so the truncation fits an int.
+    int integer = int(m);
+    const double fraction = m - integer;
+    if (fraction < 0.01 || 1.0 - fraction < 0.01) {
+        if (1.0 - fraction < 0.01)
+            ++integer;
+        return integer >= 1 && integer <= 9 ? integerMantissaCounts[integer - 1] : 1;
+    }
+    if (std::abs(fraction - 0.5) < 0.01)
+        return integer >= 1 && integer <= 9 ? halfMantissaCounts[integer - 1] : 1;
+    return 1;
+}
+
+QString AxisTicker::tickLabel(double value) const
+{
+    return QString::asprintf(m_labelFormat.constData(), value);
+}
+
+QVector<double> AxisTicker::createTicks(double tickStep, double min, double max) const
+{
+    if (!(tickStep > 0.0) || !std::isfinite(tickStep) || !(min <= max))
+        return {};
+    // floor and ceil act on the distances, not on the quotients: below a step of 1 this grid
+    // reaches further out than needed and generate() trims it.
+    const double first = std::trunc(std::floor(min - m_tickOrigin) / tickStep);
+    const double last = std::trunc(std::ceil(max - m_tickOrigin) / tickStep);
+    if (fitIndexRange(first, last) && last - first + 3 <= tickLimits::maximumTicks)
+        return tickGrid(qint64(first) - 1, qint64(last) + 1, tickStep, m_tickOrigin);
+    // A narrow range far from whole numbers would make that grid huge. The ticks one step
+    // beyond each end are all that trimming keeps of it, so only they are created.
+    const double below = std::floor((min - m_tickOrigin) / tickStep);
+    const double above = std::ceil((max - m_tickOrigin) / tickStep);
+    if (fitIndexRange(below, above) && above - below + 3 <= tickLimits::maximumTicks)
+        return tickGrid(qint64(below) - 1, qint64(above) + 1, tickStep, m_tickOrigin);
+    return {};
+}
+
+QVector<double> AxisTicker::createSubTicks(int subTickCount, const QVector<double> &ticks) const
+{
+    QVector<double> subTicks;
+    if (subTickCount < 1 || ticks.size() < 2)
+        return subTicks;
+    const qint64 total = qint64(ticks.size() - 1) * subTickCount;
+    if (total > tickLimits::maximumSubTicks)
+        return subTicks;
+    subTicks.reserve(int(total));
+    const int intervals = subTickCount + 1;
+    for (int i = 1; i < ticks.size(); ++i) {
+        const double previous = ticks[i - 1];
+        const double next = ticks[i];
+        double subStep = (next - previous) / intervals;
+        if (std::isinf(subStep)) // ticks far apart at both ends of the double range
+            subStep = next / intervals - previous / intervals;
+        // Where the step is below the resolution of doubles, rounding can put a sub-tick onto a
+        // tick or onto its neighbour: such values are left out.
+        double lowest = previous;
+        for (int k = 1; k <= subTickCount; ++k) {
+            const double subTick = previous + k * subStep;
+            if (subTick > lowest && subTick < next) {
+                subTicks.append(subTick);
+                lowest = subTick;
+            }
+        }
+    }
+    return subTicks;
+}
+
+void AxisTicker::trimTicks(double min, double max, QVector<double> &ticks, bool keepOneOutlier)
+{
+    const int size = ticks.size();
+    int low = 0;
+    while (low < size && !(ticks[low] >= min))
+        ++low;
+    int high = size - 1;
+    while (high >= 0 && !(ticks[high] <= max))
+        --high;
+    if (low == size || high < 0) {
+        ticks.clear();
+        return;
+    }
+    const int outliers = keepOneOutlier ? 1 : 0;
+    int trimFront = low - outliers;
+    int trimBack = size - 1 - high - outliers;
+    if (trimFront < 1 && trimBack < 1)
+        return;
+    trimFront = std::max(trimFront, 0);
+    trimBack = std::max(trimBack, 0);
+    if (trimFront + trimBack >= size) { // only for min > max
+        ticks.clear();
+        return;
+    }
+    ticks.resize(size - trimBack);
+    ticks.remove(0, trimFront);
+}
+
+double AxisTicker::mantissa(double input, double *magnitude)
+{
+    double power = notANumber;
+    double result = notANumber;
+    if (input > 0.0 && std::isfinite(input)) {
+        const double candidate = std::pow(10.0, std::floor(std::log(input) / ln10));
+        if (candidate > 0.0) {
+            power = candidate;
+            result = input / power;
+        }
+    }
+    if (magnitude)
+        *magnitude = power;
+    return result;
+}
+
+double AxisTicker::cleanMantissa(double input, TickStepStrategy strategy)
+{
+    if (input == 0.0)
+        return 0.0;
+    double magnitude = 0.0;
+    const double m = mantissa(input, &magnitude);
+    if (std::isnan(m))
+        return notANumber;
+    if (strategy == FineSteps) {
+        // Above 5 the steps are 4, 6 and 8: a mantissa just above 5 gives 4, not 5.
+        if (m <= 5.0)
+            return magnitude * (std::trunc(m * 2.0) * 0.5);
+        return magnitude * (std::trunc(m * 0.5) * 2.0);
+    }
+    static const QVector<double> preferredMantissas{1.0, 2.0, 2.5, 5.0, 10.0};
+    return magnitude * pickClosest(m, preferredMantissas);
+}
+
+double AxisTicker::pickClosest(double target, const QVector<double> &candidates)
+{
+    if (candidates.isEmpty())
+        return notANumber;
+    // Rounds up on purpose: between two candidates the upper one wins, however close the lower.
+    const auto upper = std::lower_bound(candidates.cbegin(), candidates.cend(), target);
+    return upper == candidates.cend() ? candidates.last() : *upper;
+}
+
+} // namespace ko::qtToolkit::charts

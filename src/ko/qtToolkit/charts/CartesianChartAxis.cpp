@@ -1,0 +1,465 @@
+#include <ko/qtToolkit/charts/CartesianChartAxis.h>
+
+#include <ko/qtToolkit/charts/AxisTicker.h>
+#include <ko/qtToolkit/charts/ChartHelpers.h>
+#include <ko/qtToolkit/charts/EmptyPolarAxis.h>
+#include <ko/qtToolkit/charts/GraphicsLineItem.h>
+#include <ko/qtToolkit/charts/HorizontalAxis.h>
+#include <ko/qtToolkit/charts/LinearAxis.h>
+#include <ko/qtToolkit/charts/LogarithmicAxis.h>
+#include <ko/qtToolkit/charts/VerticalAxis.h>
+
+#include <QGraphicsItemGroup>
+#include <QGraphicsTextItem>
+#include <QTextDocument>
+#include <QtCharts/private/abstractchartlayout_p.h>
+#include <QtCharts/private/chartpresenter_p.h>
+
+namespace ko::qtToolkit::charts {
+
+namespace {
+
+constexpr qreal labelDocumentMargin = 0.5;
+constexpr qreal minorLabelZValue = 3.0;
+// Where a label item keeps the text it shows, to skip setting it again.
+constexpr int shownTextKey = 0;
+// Panning produces new label texts all the time; the remembered sizes are dropped now and then.
+constexpr int maxRememberedLabelTexts = 1024;
+
+GraphicsLineItem *createLine(QGraphicsItem *parent, const QPen &pen)
+{
+    auto *line = new GraphicsLineItem(parent);
+    line->setPen(pen);
+    return line;
+}
+
+QGraphicsTextItem *createLabel(QGraphicsItem *parent, const QtCharts::QAbstractAxis &axis, const QColor &color)
+{
+    auto *label = new QGraphicsTextItem(parent);
+    label->document()->setDocumentMargin(labelDocumentMargin);
+    label->setFont(axis.labelsFont());
+    label->setDefaultTextColor(color);
+    label->setRotation(axis.labelsAngle());
+    return label;
+}
+
+void setLinePen(const QList<QGraphicsItem *> &items, const QPen &pen)
+{
+    for (QGraphicsItem *item : items)
+        static_cast<QGraphicsLineItem *>(item)->setPen(pen);
+}
+
+void setLineColor(const QList<QGraphicsItem *> &items, const QColor &color)
+{
+    for (QGraphicsItem *item : items) {
+        auto *line = static_cast<QGraphicsLineItem *>(item);
+        QPen pen = line->pen();
+        pen.setColor(color);
+        line->setPen(pen);
+    }
+}
+
+} // namespace
+
+CartesianChartAxis::CartesianChartAxis(QtCharts::QAbstractAxis *axis, QGraphicsItem *item)
+    : ChartAxisElement(axis, item, false)
+    , m_minorLabelGroup(new QGraphicsItemGroup(item))
+{
+    // By signature, so that an axis without minor labels simply has no such signals.
+    connect(axis, SIGNAL(visibleChanged(bool)), this, SLOT(handleVisibleChanged(bool)));
+    connect(axis, SIGNAL(minorLabelsVisibleChanged(bool)), this, SLOT(handleMinorLabelsVisibleChanged(bool)));
+    connect(axis, SIGNAL(minorLabelsColorChanged(QColor)), this, SLOT(handleMinorLabelsColorChanged(QColor)));
+    // The base restyles the major labels only.
+    connect(axis, &QtCharts::QAbstractAxis::labelsFontChanged, this, [this](const QFont &font) {
+        for (QGraphicsItem *item : minorLabelItems())
+            static_cast<QGraphicsTextItem *>(item)->setFont(font);
+    });
+    connect(axis, &QtCharts::QAbstractAxis::labelsAngleChanged, this, [this](int angle) {
+        for (QGraphicsItem *item : minorLabelItems())
+            item->setRotation(angle);
+    });
+    m_minorLabelGroup->setZValue(minorLabelZValue);
+    m_minorLabelGroup->setVisible(axis->isVisible() && minorLabelsVisible());
+}
+
+CartesianChartAxis::~CartesianChartAxis()
+{
+    delete m_minorLabelGroup;
+}
+
+QRectF CartesianChartAxis::gridGeometry() const
+{
+    return m_gridRect;
+}
+
+void CartesianChartAxis::setGeometry(const QRectF &axis, const QRectF &grid)
+{
+    setAxisGeometry(axis);
+    m_gridRect = grid;
+    if (isEmpty()) {
+        prepareGeometryChange();
+        return;
+    }
+    QVector<qreal> layout = calculateLayout();
+    updateLayout(layout);
+}
+
+bool CartesianChartAxis::isEmpty()
+{
+    const QRectF axisRect = axisGeometry();
+    const QRectF gridRect = gridGeometry();
+    return axisRect.width() <= 0.0 || axisRect.height() <= 0.0 || gridRect.width() <= 0.0
+           || gridRect.height() <= 0.0 || qFuzzyCompare(min(), max());
+}
+
+QList<QGraphicsItem *> CartesianChartAxis::minorLabelItems() const
+{
+    return m_minorLabelGroup->childItems();
+}
+
+QStringList CartesianChartAxis::allLabels() const
+{
+    QVector<qreal> ticks;
+    QVector<qreal> subTicks;
+    QStringList labels;
+    QStringList subLabels;
+    updateTicks(ticks, subTicks, labels, subLabels);
+    return labels + subLabels;
+}
+
+void CartesianChartAxis::handleVisibleChanged(bool visible)
+{
+    m_minorLabelGroup->setVisible(visible && minorLabelsVisible());
+}
+
+void CartesianChartAxis::handleMinorLabelsVisibleChanged(bool visible)
+{
+    if (QtCharts::ChartPresenter *chartPresenter = presenter()) {
+        QGraphicsLayoutItem::updateGeometry();
+        chartPresenter->layout()->invalidate();
+    }
+    // The group is not a child of this element, so a hidden axis must keep it hidden itself.
+    m_minorLabelGroup->setVisible(visible && axis()->isVisible());
+}
+
+void CartesianChartAxis::handleMinorLabelsColorChanged(QColor color)
+{
+    for (QGraphicsItem *item : minorLabelItems())
+        static_cast<QGraphicsTextItem *>(item)->setDefaultTextColor(color);
+}
+
+QVector<qreal> CartesianChartAxis::calculateLayout() const
+{
+    updateTicks(m_majorTickValues, m_minorTickValues, m_pendingLabels, m_pendingMinorLabels);
+    QVector<qreal> layout;
+    layout.reserve(m_majorTickValues.size());
+    for (const qreal value : qAsConst(m_majorTickValues))
+        layout.append(coordToPixel(*axis(), value));
+    return layout;
+}
+
+void CartesianChartAxis::updateLayout(QVector<qreal> &layout)
+{
+    const int diff = m_majorTickValues.size() - gridItems().size();
+    if (diff < 0)
+        deleteItems(-diff);
+    else
+        createItems(diff);
+
+    const int minorDiff = m_minorTickValues.size() - minorGridItems().size();
+    if (minorDiff > 0)
+        createMinorItems(minorDiff);
+    else if (minorDiff < 0)
+        deleteMinorItems(-minorDiff);
+
+    QtCharts::AxisAnimation *axisAnimation = animation();
+    if (!axisAnimation) {
+        setLayout(layout);
+        updateGeometry();
+        return;
+    }
+    // The animation installs the layout and calls updateGeometry() as it runs.
+    QtCharts::ChartPresenter *chartPresenter = presenter();
+    switch (chartPresenter->state()) {
+    case QtCharts::ChartPresenter::ShowState:
+        axisAnimation->setAnimationType(QtCharts::AxisAnimation::DefaultAnimation);
+        break;
+    case QtCharts::ChartPresenter::ScrollUpState:
+    case QtCharts::ChartPresenter::ScrollLeftState:
+        axisAnimation->setAnimationType(QtCharts::AxisAnimation::MoveBackwordAnimation);
+        break;
+    case QtCharts::ChartPresenter::ScrollDownState:
+    case QtCharts::ChartPresenter::ScrollRightState:
+        axisAnimation->setAnimationType(QtCharts::AxisAnimation::MoveForwardAnimation);
+        break;
+    case QtCharts::ChartPresenter::ZoomInState:
+        axisAnimation->setAnimationType(QtCharts::AxisAnimation::ZoomInAnimation);
+        axisAnimation->setAnimationPoint(chartPresenter->statePoint());
+        break;
+    case QtCharts::ChartPresenter::ZoomOutState:
+        axisAnimation->setAnimationType(QtCharts::AxisAnimation::ZoomOutAnimation);
+        axisAnimation->setAnimationPoint(chartPresenter->statePoint());
+        break;
+    }
+    axisAnimation->setValues(ChartAxisElement::layout(), layout);
+    chartPresenter->startAnimation(axisAnimation);
+}
+
+void CartesianChartAxis::handleShadesBrushChanged(const QBrush &brush)
+{
+    for (QGraphicsItem *item : shadeItems())
+        static_cast<QGraphicsRectItem *>(item)->setBrush(brush);
+}
+
+void CartesianChartAxis::handleShadesPenChanged(const QPen &pen)
+{
+    for (QGraphicsItem *item : shadeItems())
+        static_cast<QGraphicsRectItem *>(item)->setPen(pen);
+}
+
+void CartesianChartAxis::handleArrowPenChanged(const QPen &pen)
+{
+    setLinePen(arrowItems(), pen);
+}
+
+void CartesianChartAxis::handleGridPenChanged(const QPen &pen)
+{
+    setLinePen(gridItems(), pen);
+}
+
+void CartesianChartAxis::handleMinorArrowPenChanged(const QPen &pen)
+{
+    setLinePen(minorArrowItems(), pen);
+}
+
+void CartesianChartAxis::handleMinorGridPenChanged(const QPen &pen)
+{
+    setLinePen(minorGridItems(), pen);
+}
+
+void CartesianChartAxis::handleMinorGridLineColorChanged(const QColor &color)
+{
+    setLineColor(minorGridItems(), color);
+}
+
+void CartesianChartAxis::handleGridLineColorChanged(const QColor &color)
+{
+    setLineColor(gridItems(), color);
+}
+
+void CartesianChartAxis::updateGeometry()
+{
+    setLabels(m_pendingLabels);
+    m_minorLabels = m_pendingMinorLabels;
+}
+
+void CartesianChartAxis::layoutTicks(const QSizeF &majorLabelLimit, const QSizeF &minorLabelLimit)
+{
+    const QList<QGraphicsItem *> grid = gridItems();
+    const QList<QGraphicsItem *> arrows = arrowItems();
+    const QList<QGraphicsItem *> labelItems = labelGroup()->childItems();
+    const QStringList labelTexts = labels();
+    for (int i = 0; i < m_majorTickValues.size(); ++i) {
+        // The axis line is the first child of the arrow group.
+        layoutTick(static_cast<QGraphicsLineItem *>(grid.at(i)), static_cast<QGraphicsLineItem *>(arrows.at(i + 1)),
+                   static_cast<QGraphicsTextItem *>(labelItems.at(i)), labelTexts.at(i), m_majorTickValues.at(i),
+                   majorLabelLimit.width(), majorLabelLimit.height());
+    }
+
+    const QList<QGraphicsItem *> minorGrid = minorGridItems();
+    const QList<QGraphicsItem *> minorArrows = minorArrowItems();
+    const QList<QGraphicsItem *> minorLabelItems = this->minorLabelItems();
+    for (int j = 0; j < m_minorTickValues.size(); ++j) {
+        layoutTick(static_cast<QGraphicsLineItem *>(minorGrid.at(j)),
+                   static_cast<QGraphicsLineItem *>(minorArrows.at(j)),
+                   static_cast<QGraphicsTextItem *>(minorLabelItems.at(j)), m_minorLabels.at(j),
+                   m_minorTickValues.at(j), minorLabelLimit.width(), minorLabelLimit.height());
+    }
+}
+
+QRectF CartesianChartAxis::setLabelText(QGraphicsTextItem *label, const QString &text, qreal maxWidth,
+                                        qreal maxHeight) const
+{
+    QRectF labelRect;
+    QString shown;
+    qreal textWidth = label->textWidth();
+    if (!text.isEmpty()) {
+        // As ChartPresenter::truncatedText(), which starts by measuring the whole text.
+        const qreal angle = axis()->labelsAngle();
+        labelRect = labelBoundingRect(text, angle);
+        shown = text;
+        if (labelRect.width() > maxWidth || labelRect.height() > maxHeight) {
+            Truncation &truncation = m_truncations[text];
+            if (truncation.shown.isEmpty() || truncation.angle != angle || truncation.maxWidth != maxWidth
+                || truncation.maxHeight != maxHeight) {
+                QRectF rect;
+                const QString truncated = QtCharts::ChartPresenter::truncatedText(m_labelTextsFont, text, angle,
+                                                                                  maxWidth, maxHeight, rect);
+                truncation = {angle, maxWidth, maxHeight, truncated, rect};
+            }
+            shown = truncation.shown;
+            labelRect = truncation.rect;
+        }
+        textWidth = labelBoundingRect(shown, 0.0).width();
+    }
+    // Setting the same width or text again would lay the document out again.
+    if (label->textWidth() != textWidth)
+        label->setTextWidth(textWidth);
+    if (label->data(shownTextKey).toString() != shown) {
+        label->setHtml(shown);
+        label->setData(shownTextKey, shown);
+    }
+    // Rotation by the labels angle turns a label about its middle.
+    label->setTransformOriginPoint(label->boundingRect().center());
+    return labelRect;
+}
+
+bool CartesianChartAxis::isTitleShown() const
+{
+    return !axis()->titleText().isEmpty() && titleItem()->isVisible();
+}
+
+QRectF CartesianChartAxis::labelBoundingRect(const QString &text, qreal angle) const
+{
+    dropStaleLabelTexts();
+    const QPair<QString, qreal> key(text, angle);
+    auto it = m_labelRects.constFind(key);
+    if (it == m_labelRects.constEnd())
+        it = m_labelRects.insert(key, QtCharts::ChartPresenter::textBoundingRect(m_labelTextsFont, text, angle));
+    return it.value();
+}
+
+void CartesianChartAxis::dropStaleLabelTexts() const
+{
+    const QFont font = axis()->labelsFont();
+    if (font != m_labelTextsFont || m_labelRects.size() + m_truncations.size() >= maxRememberedLabelTexts) {
+        m_labelRects.clear();
+        m_truncations.clear();
+        m_labelTextsFont = font;
+    }
+}
+
+void CartesianChartAxis::updateTicks(QVector<qreal> &ticks, QVector<qreal> &subTicks, QStringList &labels,
+                                     QStringList &subLabels) const
+{
+    AxisTicker *ticker = nullptr;
+    qreal min = 0.0;
+    qreal max = 0.0;
+    QString format;
+    if (axis()->type() == QtCharts::QAbstractAxis::AxisTypeValue) {
+        if (auto *linear = qobject_cast<LinearAxis *>(axis())) {
+            ticker = linear->ticker();
+            min = linear->min();
+            max = linear->max();
+            format = linear->labelFormat();
+        }
+    } else if (axis()->type() == QtCharts::QAbstractAxis::AxisTypeLogValue) {
+        if (auto *logarithmic = qobject_cast<LogarithmicAxis *>(axis())) {
+            ticker = logarithmic->ticker();
+            min = logarithmic->min();
+            max = logarithmic->max();
+            format = logarithmic->labelFormat();
+        }
+    }
+    if (!ticker) {
+        ticks.clear();
+        subTicks.clear();
+        return;
+    }
+    if (!format.isEmpty())
+        ticker->setLabelFormat(format);
+    ticker->generate(min, max, ticks, subTicks);
+    ticker->generateLabels(ticks, labels);
+    ticker->generateLabels(subTicks, subLabels);
+}
+
+void CartesianChartAxis::createItems(int count)
+{
+    if (arrowItems().isEmpty())
+        arrowGroup()->addToGroup(createLine(this, axis()->linePen()));
+
+    QGraphicsTextItem *title = titleItem();
+    title->setFont(axis()->titleFont());
+    title->setDefaultTextColor(axis()->titleBrush().color());
+    title->setHtml(axis()->titleText());
+
+    const QColor labelsColor = axis()->labelsBrush().color();
+    for (int i = 0; i < count; ++i) {
+        arrowGroup()->addToGroup(createLine(this, axis()->linePen()));
+        gridGroup()->addToGroup(createLine(this, axis()->gridLinePen()));
+        labelGroup()->addToGroup(createLabel(this, *axis(), labelsColor));
+    }
+}
+
+void CartesianChartAxis::deleteItems(int count)
+{
+    QList<QGraphicsItem *> grid = gridItems();
+    QList<QGraphicsItem *> labels = labelItems();
+    QList<QGraphicsItem *> arrows = arrowItems();
+    for (int i = 0; i < count; ++i) {
+        delete grid.takeLast();
+        delete labels.takeLast();
+        delete arrows.takeLast();
+    }
+}
+
+void CartesianChartAxis::createMinorItems(int count)
+{
+    const QColor color = minorLabelsColor();
+    for (int i = 0; i < count; ++i) {
+        minorArrowGroup()->addToGroup(createLine(this, axis()->linePen()));
+        minorGridGroup()->addToGroup(createLine(this, axis()->minorGridLinePen()));
+        m_minorLabelGroup->addToGroup(createLabel(this, *axis(), color));
+    }
+}
+
+void CartesianChartAxis::deleteMinorItems(int count)
+{
+    QList<QGraphicsItem *> grid = minorGridItems();
+    QList<QGraphicsItem *> labels = minorLabelItems();
+    QList<QGraphicsItem *> arrows = minorArrowItems();
+    for (int i = 0; i < count; ++i) {
+        if (!grid.isEmpty())
+            delete grid.takeLast();
+        if (!labels.isEmpty())
+            delete labels.takeLast();
+        if (!arrows.isEmpty())
+            delete arrows.takeLast();
+    }
+}
+
+QColor CartesianChartAxis::minorLabelsColor() const
+{
+    if (axis()->type() == QtCharts::QAbstractAxis::AxisTypeValue) {
+        if (const auto *linear = qobject_cast<const LinearAxis *>(axis()))
+            return linear->minorLabelsColor();
+    } else if (axis()->type() == QtCharts::QAbstractAxis::AxisTypeLogValue) {
+        if (const auto *logarithmic = qobject_cast<const LogarithmicAxis *>(axis()))
+            return logarithmic->minorLabelsColor();
+    }
+    return axis()->labelsColor();
+}
+
+bool CartesianChartAxis::minorLabelsVisible() const
+{
+    if (axis()->type() == QtCharts::QAbstractAxis::AxisTypeValue) {
+        if (const auto *linear = qobject_cast<const LinearAxis *>(axis()))
+            return linear->minorLabelsVisible();
+    } else if (axis()->type() == QtCharts::QAbstractAxis::AxisTypeLogValue) {
+        if (const auto *logarithmic = qobject_cast<const LogarithmicAxis *>(axis()))
+            return logarithmic->minorLabelsVisible();
+    }
+    return false;
+}
+
+QtCharts::ChartAxisElement *createAxisElement(QtCharts::QAbstractAxis *axis, QtCharts::QChart::ChartType chartType,
+                                              QGraphicsItem *parent)
+{
+    if (chartType != QtCharts::QChart::ChartTypeCartesian)
+        return new EmptyPolarAxis(axis, parent);
+    if (axis->orientation() == Qt::Horizontal)
+        return new HorizontalAxis(axis, parent);
+    return new VerticalAxis(axis, parent);
+}
+
+} // namespace ko::qtToolkit::charts

@@ -1,0 +1,171 @@
+#ifndef KO_QTTOOLKIT_CHARTS_CARTESIANCHARTAXIS_H
+#define KO_QTTOOLKIT_CHARTS_CARTESIANCHARTAXIS_H
+
+#include <ko/qtToolkit/qtToolkit_export.h>
+
+#include <QColor>
+#include <QFont>
+#include <QHash>
+#include <QStringList>
+#include <QVector>
+#include <QtCharts/QChart>
+#include <QtCharts/private/chartaxiselement_p.h>
+
+class QGraphicsItemGroup;
+class QGraphicsLineItem;
+class QGraphicsTextItem;
+
+namespace ko::qtToolkit::charts {
+
+/**
+ * \brief The graphics element that draws a LinearAxis or LogarithmicAxis in a cartesian chart.
+ *
+ * Tick values and labels come from the axis's ticker. Every major tick gets a tick mark, a grid
+ * line and a label; every minor tick a tick mark, a minor grid line and a minor label, drawn
+ * in the axis's minor labels colour and shown only while the axis's minor labels are visible.
+ * Lines are GraphicsLineItem, so one-pixel lines stay crisp. Axis shades are never drawn.
+ *
+ * After each layout pass the grid and label groups hold one item per major tick and the arrow
+ * group one more (the axis line, always its first child); the minor arrow, minor grid and
+ * minor label groups hold one item per minor tick. The i-th item of a group belongs to the
+ * i-th tick value.
+ *
+ * HorizontalAxis and VerticalAxis place the items and answer the chart layout's size queries.
+ */
+class KO_QTTOOLKIT_EXPORT CartesianChartAxis : public QtCharts::ChartAxisElement
+{
+    Q_OBJECT
+
+public:
+    /**
+     * \brief The element of \a axis, with \a item as parent of all its items.
+     *
+     * Neither pointer is owned. The element must be deleted before \a item.
+     */
+    CartesianChartAxis(QtCharts::QAbstractAxis *axis, QGraphicsItem *item);
+    ~CartesianChartAxis() override;
+
+    QRectF gridGeometry() const override;
+    void setGeometry(const QRectF &axis, const QRectF &grid) override;
+    bool isEmpty() override;
+
+    /// Axis values of the major ticks of the last layout pass.
+    const QVector<qreal> &majorTickValues() const { return m_majorTickValues; }
+    /// Axis values of the minor ticks of the last layout pass.
+    const QVector<qreal> &minorTickValues() const { return m_minorTickValues; }
+
+    /// The minor label texts currently shown.
+    QStringList minorLabels() const { return m_minorLabels; }
+
+    /// The group of the minor labels, one QGraphicsTextItem per minor tick.
+    QGraphicsItemGroup *minorLabelGroup() const { return m_minorLabelGroup; }
+    QList<QGraphicsItem *> minorLabelItems() const;
+
+    /// The major labels followed by the minor labels, freshly computed by the axis's ticker.
+    QStringList allLabels() const;
+
+    // Pen and colour changes of the axis; shades only ever restyle an empty group.
+    void handleShadesBrushChanged(const QBrush &brush) override;
+    void handleShadesPenChanged(const QPen &pen) override;
+    void handleArrowPenChanged(const QPen &pen) override;
+    void handleGridPenChanged(const QPen &pen) override;
+    void handleMinorArrowPenChanged(const QPen &pen) override;
+    void handleMinorGridPenChanged(const QPen &pen) override;
+    void handleMinorGridLineColorChanged(const QColor &color) override;
+    void handleGridLineColorChanged(const QColor &color) override;
+
+    // The base's item groups, for the layouts and for inspecting a laid-out axis.
+    using ChartAxisElement::arrowGroup;
+    using ChartAxisElement::gridGroup;
+    using ChartAxisElement::labelGroup;
+    using ChartAxisElement::minorArrowGroup;
+    using ChartAxisElement::minorGridGroup;
+    using ChartAxisElement::shadeGroup;
+    using ChartAxisElement::titleItem;
+
+public Q_SLOTS:
+    void handleVisibleChanged(bool visible);
+    void handleMinorLabelsVisibleChanged(bool visible);
+    void handleMinorLabelsColorChanged(QColor color);
+
+protected:
+    QVector<qreal> calculateLayout() const override;
+    void updateLayout(QVector<qreal> &layout) override;
+
+    /// Shows the labels of the last tick computation; subclasses call it first, then place the
+    /// items.
+    void updateGeometry() override;
+
+    /// Places the grid line, tick mark and label of the tick at axis value \a value, the label
+    /// showing \a text within \a maxWidth x \a maxHeight.
+    virtual void layoutTick(QGraphicsLineItem *gridItem, QGraphicsLineItem *tickItem,
+                            QGraphicsTextItem *labelItem, const QString &text, qreal value,
+                            qreal maxWidth, qreal maxHeight) = 0;
+
+    /// Runs layoutTick() for every major tick, then for every minor tick, with the label size
+    /// limits for each kind.
+    void layoutTicks(const QSizeF &majorLabelLimit, const QSizeF &minorLabelLimit);
+
+    /// Shows \a text in \a label, truncated to \a maxWidth x \a maxHeight; an empty text is
+    /// shown as nothing. Returns the bounding rectangle of the truncated text (empty for an
+    /// empty text).
+    QRectF setLabelText(QGraphicsTextItem *label, const QString &text, qreal maxWidth,
+                        qreal maxHeight) const;
+
+    /// Whether the axis has a title and shows it.
+    bool isTitleShown() const;
+
+    /// The bounding rectangle of \a text in the axis's labels font, turned by \a angle, as
+    /// ChartPresenter::textBoundingRect() gives it; remembered, since laying out a text is the
+    /// costly part of every layout pass and most labels keep their texts from pass to pass.
+    QRectF labelBoundingRect(const QString &text, qreal angle) const;
+
+private:
+    void updateTicks(QVector<qreal> &ticks, QVector<qreal> &subTicks, QStringList &labels,
+                     QStringList &subLabels) const;
+    void createItems(int count);
+    void deleteItems(int count);
+    void createMinorItems(int count);
+    void deleteMinorItems(int count);
+    QColor minorLabelsColor() const;
+    bool minorLabelsVisible() const;
+    void dropStaleLabelTexts() const;
+
+    // A label text as truncated for the given limits.
+    struct Truncation
+    {
+        qreal angle = 0.0;
+        qreal maxWidth = 0.0;
+        qreal maxHeight = 0.0;
+        QString shown;
+        QRectF rect;
+    };
+
+    QGraphicsItemGroup *m_minorLabelGroup;
+    QStringList m_minorLabels;
+    QRectF m_gridRect;
+    // Filled by calculateLayout(), which the base declares const.
+    mutable QVector<qreal> m_majorTickValues;
+    mutable QVector<qreal> m_minorTickValues;
+    mutable QStringList m_pendingLabels;
+    mutable QStringList m_pendingMinorLabels;
+    // Measured and truncated label texts, for the labels font they were measured in.
+    mutable QHash<QPair<QString, qreal>, QRectF> m_labelRects;
+    mutable QHash<QString, Truncation> m_truncations;
+    mutable QFont m_labelTextsFont;
+};
+
+/**
+ * \brief The drawing element of a LinearAxis or LogarithmicAxis \a axis in a chart of type
+ *        \a chartType, with \a parent as parent of its items.
+ *
+ * A cartesian chart gets a HorizontalAxis or VerticalAxis by the axis's orientation; any other
+ * chart an EmptyPolarAxis, which draws nothing. The caller owns the element.
+ */
+KO_QTTOOLKIT_EXPORT QtCharts::ChartAxisElement *createAxisElement(QtCharts::QAbstractAxis *axis,
+                                                                  QtCharts::QChart::ChartType chartType,
+                                                                  QGraphicsItem *parent);
+
+} // namespace ko::qtToolkit::charts
+
+#endif

@@ -1,0 +1,31 @@
+#ifndef KO_QTTOOLKIT_CHARTS_CHARTHELPERS_P_H
+#define KO_QTTOOLKIT_CHARTS_CHARTHELPERS_P_H
+
+#include <ko/qtToolkit/qtToolkit_export.h>
+
+#include <QPair>
+#include <QtCharts/QChartGlobal>
+
+QT_CHARTS_BEGIN_NAMESPACE
+class ChartAxisElement;
+class ChartElement;
+class QAbstractAxis;
+class QAbstractSeries;
+QT_CHARTS_END_NAMESPACE
+
+namespace ko::qtToolkit::charts {
+
+/// The element that draws \a axis in its chart; null while the axis is in no chart.
+KO_QTTOOLKIT_EXPORT QtCharts::ChartAxisElement *axisElement(const QtCharts::QAbstractAxis &axis);
+
+/// The item that draws \a series in its chart; null while the series is in no chart.
+KO_QTTOOLKIT_EXPORT QtCharts::ChartElement *seriesElement(const QtCharts::QAbstractSeries &series);
+
+/// A zoomed logarithmic range [min, max] moved off zero. An end at zero becomes a thousandth
+/// of the other end, at most 0.001 from zero. A range across zero is made positive in the same
+/// way when its minimum is -1 or more, and negative (maximum -0.001) otherwise.
+KO_QTTOOLKIT_EXPORT QPair<double, double> logarithmicRangeOffZero(double min, double max);
+
+} // namespace ko::qtToolkit::charts
+
+#endif

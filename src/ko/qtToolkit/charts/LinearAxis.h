@@ -1,0 +1,67 @@
+#ifndef KO_QTTOOLKIT_CHARTS_LINEARAXIS_H
+#define KO_QTTOOLKIT_CHARTS_LINEARAXIS_H
+
+#include <ko/qtToolkit/qtToolkit_export.h>
+
+#include <QColor>
+#include <QtCharts/QValueAxis>
+
+namespace ko::qtToolkit::charts {
+
+class AxisTicker;
+class LinearAxisPrivate;
+
+/**
+ * \brief A value axis whose ticks, minor ticks and labels come from an exchangeable ticker, with
+ *        a label at every minor tick.
+ *
+ * Add it to a QChart like any Qt Charts axis. At every layout pass its drawing element passes
+ * a non-empty labelFormat() to the ticker, asks it for the major and minor ticks within
+ * [min(), max()] and their labels, and draws a tick mark, grid line and label for each. The
+ * minor labels have a visibility and a colour of their own. Axis shades are not drawn. On a
+ * polar chart the axis is not drawn at all.
+ *
+ * Without a ticker of its own the axis uses a default-constructed AxisTicker.
+ */
+class KO_QTTOOLKIT_EXPORT LinearAxis : public QtCharts::QValueAxis
+{
+    Q_OBJECT
+    Q_PROPERTY(bool minorLabelsVisible READ minorLabelsVisible WRITE setMinorLabelsVisible NOTIFY minorLabelsVisibleChanged)
+    Q_PROPERTY(QColor minorLabelsColor READ minorLabelsColor WRITE setMinorLabelsColor NOTIFY minorLabelsColorChanged)
+
+public:
+    /// An axis without ticker of its own, showing its minor labels.
+    explicit LinearAxis(QObject *parent = nullptr);
+    /// Does not delete a ticker set with setTicker().
+    ~LinearAxis() override;
+
+    /**
+     * \brief Makes \a ticker compute the ticks and labels from the next layout pass on.
+     *
+     * The axis does not take ownership: \a ticker must outlive the axis, or be replaced before
+     * it is deleted. A null \a ticker selects the axis's default ticker again. Does not
+     * request a layout pass.
+     */
+    void setTicker(AxisTicker *ticker);
+    /// The ticker in use; never null.
+    AxisTicker *ticker() const;
+
+    /// Whether labels are shown at the minor ticks; true by default.
+    bool minorLabelsVisible() const;
+    void setMinorLabelsVisible(bool visible);
+
+    /// The colour of the minor labels; by default that of Qt Charts' default brush.
+    QColor minorLabelsColor() const;
+    void setMinorLabelsColor(const QColor &color);
+
+Q_SIGNALS:
+    void minorLabelsVisibleChanged(bool visible);
+    void minorLabelsColorChanged(const QColor &color);
+
+private:
+    Q_DECLARE_PRIVATE(LinearAxis)
+};
+
+} // namespace ko::qtToolkit::charts
+
+#endif

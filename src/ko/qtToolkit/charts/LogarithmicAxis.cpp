@@ -1,0 +1,54 @@
+#include <ko/qtToolkit/charts/LogarithmicAxis.h>
+
+#include <ko/qtToolkit/charts/TickedAxisPrivate.h>
+
+#include <QtCharts/private/qlogvalueaxis_p.h>
+
+namespace ko::qtToolkit::charts {
+
+class LogarithmicAxisPrivate : public TickedAxisPrivate<QtCharts::QLogValueAxisPrivate>
+{
+public:
+    using TickedAxisPrivate::TickedAxisPrivate;
+};
+
+LogarithmicAxis::LogarithmicAxis(QObject *parent)
+    : QLogValueAxis(*new LogarithmicAxisPrivate(this), parent)
+{
+}
+
+LogarithmicAxis::~LogarithmicAxis() = default;
+
+void LogarithmicAxis::setTicker(AxisTicker *ticker)
+{
+    d_func()->setTicker(ticker);
+}
+
+AxisTicker *LogarithmicAxis::ticker() const
+{
+    return d_func()->currentTicker;
+}
+
+bool LogarithmicAxis::minorLabelsVisible() const
+{
+    return d_func()->minorLabelsVisible;
+}
+
+void LogarithmicAxis::setMinorLabelsVisible(bool visible)
+{
+    if (d_func()->setMinorLabelsVisible(visible))
+        Q_EMIT minorLabelsVisibleChanged(visible);
+}
+
+QColor LogarithmicAxis::minorLabelsColor() const
+{
+    return d_func()->minorLabelsBrush.color();
+}
+
+void LogarithmicAxis::setMinorLabelsColor(const QColor &color)
+{
+    if (d_func()->setMinorLabelsColor(color))
+        Q_EMIT minorLabelsColorChanged(color);
+}
+
+} // namespace ko::qtToolkit::charts

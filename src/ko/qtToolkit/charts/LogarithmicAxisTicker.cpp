@@ -1,0 +1,110 @@
+#include <ko/qtToolkit/charts/LogarithmicAxisTicker.h>
+
+#include "AxisTicker_p.h"
+
+#include <QtGlobal>
+
+#include <algorithm>
+#include <cmath>
+
+namespace ko::qtToolkit::charts {
+
+LogarithmicAxisTicker::~LogarithmicAxisTicker() = default;
+
+double LogarithmicAxisTicker::base() const
+{
+    return m_base;
+}
+
+void LogarithmicAxisTicker::setBase(double base)
+{
+    if (!(base > 0.0)) {
+        qWarning("log base has to be greater than zero");
+        return;
+    }
+    m_base = base;
+    m_logBaseFactor = 1.0 / std::log(base);
+}
+
+int LogarithmicAxisTicker::subTickCount() const
+{
+    return m_subTickCount;
+}
+
+void LogarithmicAxisTicker::setSubTickCount(int count)
+{
+    if (count < 0) {
+        qWarning("sub tick count can't be negative");
+        return;
+    }
+    m_subTickCount = count;
+}
+
+double LogarithmicAxisTicker::computeTickStep(double, double) const
+{
+    return 1.0;
+}
+
+int LogarithmicAxisTicker::computeSubTickCount(double) const
+{
+    return m_subTickCount;
+}
+
+QVector<double> LogarithmicAxisTicker::createTicks(double, double min, double max) const
+{
+    const bool positive = min > 0.0 && max > 0.0;
+    if (!positive && !(min < 0.0 && max < 0.0)) {
+        qWarning("Invalid range for logarithmic axis");
+        return {};
+    }
+    // Below zero the ticks mirror those of the distances from zero.
+    const double nearest = positive ? min : -max;
+    const double farthest = positive ? max : -min;
+    double logRatio = std::log(farthest / nearest);
+    if (std::isinf(logRatio)) // the quotient left the double range
+        logRatio = std::log(farthest) - std::log(nearest);
+    const double decades = logRatio * m_logBaseFactor;
+    const double exponentStep =
+        std::trunc(cleanMantissa(decades / (tickCount() + 1e-10), tickStepStrategy()));
+    // The comparison also turns NaN (from a base of 1 or below) into a step of 1.
+    const double factor = std::pow(m_base, exponentStep >= 2.0 ? exponentStep : 1.0);
+    if (!(factor > 1.0) || std::isinf(factor))
+        return {};
+    const double logFactor = std::log(factor);
+
+    QVector<double> ticks;
+    ticks.reserve(int(std::clamp(logRatio / logFactor + 3.0, 1.0,
+                                 double(tickLimits::maximumTicks + 1))));
+    if (positive) {
+        const double exponent = std::floor(std::log(min) / logFactor);
+        double tick = std::pow(factor, exponent);
+        if (tick == 0.0) { // the power at or below min underflows: zero stands for it
+            ticks.append(tick);
+            tick = std::pow(factor, exponent + 1.0);
+        }
+        ticks.append(tick);
+        while (max > tick && tick > 0.0) {
+            tick *= factor;
+            ticks.append(tick);
+            if (ticks.size() > tickLimits::maximumTicks)
+                return {};
+        }
+    } else {
+        const double exponent = std::ceil(std::log(-min) / logFactor);
+        double tick = -std::pow(factor, exponent);
+        if (std::isinf(tick)) { // the power at or below min overflows: -inf stands for it
+            ticks.append(tick);
+            tick = -std::pow(factor, exponent - 1.0);
+        }
+        ticks.append(tick);
+        while (max > tick && tick < 0.0) {
+            tick /= factor;
+            ticks.append(tick);
+            if (ticks.size() > tickLimits::maximumTicks)
+                return {};
+        }
+    }
+    return ticks;
+}
+
+} // namespace ko::qtToolkit::charts

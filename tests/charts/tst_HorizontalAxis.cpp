@@ -1,0 +1,333 @@
+#include "ChartTestSupport.h"
+
+#include <ko/qtToolkit/charts/ChartHelpers.h>
+#include <ko/qtToolkit/charts/HorizontalAxis.h>
+#include <ko/qtToolkit/charts/LinearAxis.h>
+
+#include <TestSupport.h>
+
+#include <QGraphicsItemGroup>
+#include <QGraphicsTextItem>
+#include <QTest>
+#include <QtCharts/private/chartpresenter_p.h>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace ko::qtToolkit::charts;
+using namespace ko::qtToolkit::test;
+using QtCharts::ChartPresenter;
+
+namespace {
+
+const QRectF bottomAxisRect(0, 300, 800, 40);
+const QRectF topAxisRect(0, 20, 800, 60);
+const QRectF gridRect(60, 80, 700, 220);
+
+// Labels every tick except the one at 30.
+class GapTicker : public AxisTicker
+{
+public:
+    QString tickLabel(double value) const override { return value == 30.0 ? QString() : AxisTicker::tickLabel(value); }
+};
+
+} // namespace
+
+class tst_HorizontalAxis : public QObject
+{
+    Q_OBJECT
+
+private:
+    TestChart *m_chart = nullptr;
+    LinearAxis *m_axis = nullptr;
+
+    // The element of a 0..100 axis at \a alignment, laid out by hand into \a axisRect and the
+    // grid, as the chart layout would do it.
+    HorizontalAxis *layOut(Qt::Alignment alignment, const QRectF &axisRect)
+    {
+        m_axis = m_chart->addAxis(new LinearAxis, alignment);
+        m_axis->setRange(0.0, 100.0);
+        m_axis->setLabelsFont(ko::qtToolkit::test::fixedFont());
+        m_chart->layout();
+        auto *element = TestChart::element<HorizontalAxis>(*m_axis);
+        element->setGeometry(axisRect, gridRect);
+        return element;
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        ko::qtToolkit::test::useFixedFont();
+    }
+
+    void init()
+    {
+        m_chart = new TestChart;
+    }
+
+    void cleanup()
+    {
+        delete m_chart;
+        m_chart = nullptr;
+    }
+
+    void bottomAxis()
+    {
+        HorizontalAxis *element = layOut(Qt::AlignBottom, bottomAxisRect);
+        QCOMPARE(lineAt(element->arrowGroup(), 0)->line(), QLineF(60, 300, 760, 300));
+        const QVector<Tick> ticks = ticksOf(element);
+        QCOMPARE(ticks.size(), 11);
+        for (const Tick &tick : ticks) {
+            const qreal x = gridRect.left() + tick.value / 100.0 * gridRect.width();
+            QCOMPARE(tick.grid->line(), QLineF(x, gridRect.top(), x, gridRect.bottom()));
+            QCOMPARE(tick.mark->line(), QLineF(x, 300, x, 304));
+            // The label box, as wide and high as its text, starts 4 px below the axis top and
+            // is centred on the tick to the nearest whole pixel.
+            const QRectF box = tick.label->boundingRect();
+            QCOMPARE(tick.label->pos().y(), 304.0);
+            QVERIFY(std::abs(tick.label->pos().x() + box.width() / 2.0 - x) <= 0.5);
+            QCOMPARE(tick.label->pos().x(), std::round(tick.label->pos().x()));
+        }
+    }
+
+    void topAxis()
+    {
+        HorizontalAxis *element = layOut(Qt::AlignTop, topAxisRect);
+        QCOMPARE(lineAt(element->arrowGroup(), 0)->line(), QLineF(60, 80, 760, 80));
+        for (const Tick &tick : ticksOf(element)) {
+            const qreal x = coordToPixel(*m_axis, tick.value);
+            QCOMPARE(tick.mark->line(), QLineF(x, 80, x, 76));
+            // The label's bottom edge ends 4 px above the axis bottom.
+            const QRectF box = tick.label->boundingRect();
+            QCOMPARE(tick.label->pos().y(), std::round(80.0 - box.height() - 4.0));
+            QVERIFY(std::abs(tick.label->pos().x() + box.width() / 2.0 - x) <= 0.5);
+        }
+    }
+
+    void topAxisTitle()
+    {
+        HorizontalAxis *element = layOut(Qt::AlignTop, topAxisRect);
+        m_axis->setTitleText(QStringLiteral("Frequency"));
+        m_axis->setTitleFont(ko::qtToolkit::test::fixedFont(14));
+        element->setGeometry(topAxisRect, gridRect);
+        QGraphicsTextItem *title = element->titleItem();
+        QCOMPARE(title->toPlainText(), QStringLiteral("Frequency"));
+        QCOMPARE(title->pos().y(), 22.0);
+        QCOMPARE(title->pos().x() + title->boundingRect().center().x(), gridRect.center().x());
+    }
+
+    void bottomAxisTitle()
+    {
+        HorizontalAxis *element = layOut(Qt::AlignBottom, bottomAxisRect);
+        m_axis->setTitleText(QStringLiteral("Time"));
+        element->setGeometry(QRectF(0, 300, 800, 60), gridRect);
+        QGraphicsTextItem *title = element->titleItem();
+        QCOMPARE(title->pos().y() + title->boundingRect().height(), 358.0);
+        QCOMPARE(title->pos().x() + title->boundingRect().center().x(), gridRect.center().x());
+    }
+
+    void labelHeightLimit_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<bool>("titleVisible");
+        QTest::addColumn<bool>("truncated");
+        // Room for labels: 26 px without a title (30 - 4); with one, less the title and its
+        // paddings, which leaves less than a line.
+        QTest::newRow("no title") << "" << true << false;
+        QTest::newRow("hidden title") << "Pressure" << false << false;
+        QTest::newRow("title") << "Pressure" << true << true;
+    }
+
+    void labelHeightLimit()
+    {
+        QFETCH(QString, title);
+        QFETCH(bool, titleVisible);
+        QFETCH(bool, truncated);
+
+        HorizontalAxis *element = layOut(Qt::AlignBottom, bottomAxisRect);
+        m_axis->setTitleText(title);
+        m_axis->setTitleFont(ko::qtToolkit::test::fixedFont(14));
+        m_axis->setTitleVisible(titleVisible);
+        element->setGeometry(QRectF(0, 300, 800, 30), gridRect);
+        const QString shown = textAt(element->labelGroup(), 1)->toPlainText();
+        QCOMPARE(shown != QStringLiteral("30.00"), truncated);
+    }
+
+    void emptyLabelIsNotTruncated()
+    {
+        GapTicker ticker;
+        HorizontalAxis *element = layOut(Qt::AlignBottom, bottomAxisRect);
+        m_axis->setTicker(&ticker);
+        element->setGeometry(bottomAxisRect, gridRect);
+        QCOMPARE(element->labels().at(1), QString());
+        QGraphicsTextItem *label = textAt(element->labelGroup(), 1);
+        QCOMPARE(label->toPlainText(), QString());
+        // Nothing was truncated, so the whole (empty) box counts as the height difference.
+        QCOMPARE(label->pos().y(), std::round(304.0 - label->boundingRect().height() / 2.0));
+        m_axis->setTicker(nullptr);
+    }
+
+    void labelWidthLimit_data()
+    {
+        QTest::addColumn<int>("tickCount");
+        QTest::addColumn<qreal>("maxWidth");
+        QTest::addColumn<bool>("truncated");
+        // Each label may take 500 px / tick count - 8 px.
+        QTest::newRow("ten ticks") << 9 << 42.0 << true;
+        QTest::newRow("five ticks") << 4 << 92.0 << false;
+    }
+
+    void labelWidthLimit()
+    {
+        QFETCH(int, tickCount);
+        QFETCH(qreal, maxWidth);
+        QFETCH(bool, truncated);
+
+        HorizontalAxis *element = layOut(Qt::AlignBottom, bottomAxisRect);
+        m_axis->setRange(0.0, tickCount + 0.001);
+        m_axis->ticker()->setTickCount(tickCount);
+        m_axis->setLabelFormat(QStringLiteral("%.1f mm/s"));
+        element->setGeometry(QRectF(0, 300, 500, 40), gridRect);
+        QCOMPARE(element->majorTickValues().size(), tickCount + 1);
+
+        const QFont font = ko::qtToolkit::test::fixedFont();
+        for (int i = 0; i < element->labels().size(); ++i) {
+            const QString full = element->labels().at(i);
+            const QString shown = textAt(element->labelGroup(), i)->toPlainText();
+            const qreal fullWidth = ChartPresenter::textBoundingRect(font, full, 0.0).width();
+            QCOMPARE(shown == full, fullWidth <= maxWidth);
+            QCOMPARE(shown != full, truncated);
+            QVERIFY(ChartPresenter::textBoundingRect(font, shown, 0.0).width() <= std::max(maxWidth, fullWidth));
+            if (shown != full)
+                QVERIFY(shown.endsWith(QStringLiteral("...")));
+        }
+    }
+
+    void otherAlignmentLeavesItemsUnplaced()
+    {
+        // A horizontal element asked to draw an axis that sits at the left.
+        m_axis = m_chart->addAxis(new LinearAxis, Qt::AlignLeft);
+        m_axis->setRange(0.0, 100.0);
+        m_chart->layout();
+        QGraphicsRectItem root;
+        HorizontalAxis element(m_axis, &root);
+        element.setGeometry(bottomAxisRect, gridRect);
+        QCOMPARE(lineAt(element.arrowGroup(), 0)->line(), QLineF());
+        for (const Tick &tick : ticksOf(&element)) {
+            QCOMPARE(tick.mark->line(), QLineF());
+            QCOMPARE(tick.label->pos(), QPointF(0, 0));
+            QVERIFY(!tick.label->toPlainText().isEmpty());
+        }
+    }
+
+    void minimumSizeHint_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<int>("angle");
+        QTest::newRow("no title") << "" << 0;
+        QTest::newRow("title") << "Level" << 0;
+        QTest::newRow("turned labels") << "" << 45;
+    }
+
+    void minimumSizeHint()
+    {
+        QFETCH(QString, title);
+        QFETCH(int, angle);
+
+        HorizontalAxis *element = layOut(Qt::AlignBottom, bottomAxisRect);
+        m_axis->setTitleText(title);
+        m_axis->setLabelsAngle(angle);
+        const QFont font = ko::qtToolkit::test::fixedFont();
+        const QRectF dots = ChartPresenter::textBoundingRect(font, QStringLiteral("..."), angle);
+        const qreal titleHeight = title.isEmpty()
+            ? 0.0
+            : ChartPresenter::textBoundingRect(m_axis->titleFont(), QStringLiteral("..."), 0.0).height() + 4.0;
+        QCOMPARE(element->sizeHint(Qt::MinimumSize), QSizeF(dots.width() / 2.0, dots.height() + 4.0 + titleHeight + 1.0));
+    }
+
+    void preferredSizeHint_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<bool>("titleVisible");
+        QTest::newRow("no title") << "" << true;
+        QTest::newRow("title") << "Level" << true;
+        QTest::newRow("hidden title") << "Level" << false;
+    }
+
+    void preferredSizeHint()
+    {
+        QFETCH(QString, title);
+        QFETCH(bool, titleVisible);
+
+        HorizontalAxis *element = layOut(Qt::AlignBottom, bottomAxisRect);
+        m_axis->setRange(0.0, 1000.0);
+        m_axis->setTitleText(title);
+        m_axis->setTitleVisible(titleVisible);
+        const QFont font = ko::qtToolkit::test::fixedFont();
+        const QStringList labels = element->allLabels();
+        QCOMPARE(labels.constFirst(), QStringLiteral("0.00"));
+        QCOMPARE(labels.constLast(), QStringLiteral("1000.00"));
+        qreal height = 0.0;
+        for (const QString &label : labels)
+            height = std::max(height, ChartPresenter::textBoundingRect(font, label, 0.0).height());
+        const qreal titleHeight = title.isEmpty() || !titleVisible
+            ? 0.0
+            : ChartPresenter::textBoundingRect(m_axis->titleFont(), title, 0.0).height() + 4.0;
+        // The last label, a minor one, is the widest.
+        const qreal width = ChartPresenter::textBoundingRect(font, labels.constLast(), 0.0).width();
+        QCOMPARE(element->sizeHint(Qt::PreferredSize), QSizeF(width / 2.0, height + 4.0 + titleHeight + 1.0));
+    }
+
+    void preferredSizeHintWithoutLabels_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::newRow("no title") << "";
+        QTest::newRow("title") << "A rather long title";
+    }
+
+    void preferredSizeHintWithoutLabels()
+    {
+        QFETCH(QString, title);
+
+        EmptyTicker ticker;
+        HorizontalAxis *element = layOut(Qt::AlignBottom, bottomAxisRect);
+        m_axis->setTicker(&ticker);
+        m_axis->setTitleText(title);
+        QVERIFY(element->allLabels().isEmpty());
+        const QRectF titleRect = title.isEmpty() ? QRectF()
+                                                 : ChartPresenter::textBoundingRect(m_axis->titleFont(), title, 0.0);
+        const qreal titleHeight = title.isEmpty() ? 0.0 : titleRect.height() + 4.0;
+        QCOMPARE(element->sizeHint(Qt::PreferredSize), QSizeF(titleRect.width() / 2.0, 4.0 + titleHeight + 1.0));
+        m_axis->setTicker(nullptr);
+    }
+
+    void otherSizeHints()
+    {
+        HorizontalAxis *element = layOut(Qt::AlignBottom, bottomAxisRect);
+        QCOMPARE(element->sizeHint(Qt::MaximumSize), QSizeF(-1, -1));
+        QCOMPARE(element->sizeHint(Qt::MinimumDescent), QSizeF(-1, -1));
+    }
+
+    void chartReservesRoomForLabels()
+    {
+        // In a real layout pass the labels of a bottom axis end inside the chart.
+        m_axis = m_chart->addAxis(new LinearAxis, Qt::AlignBottom);
+        m_axis->setRange(0.0, 100.0);
+        m_chart->layout();
+        auto *element = TestChart::element<HorizontalAxis>(*m_axis);
+        const QRectF plot = m_chart->chart()->plotArea();
+        QCOMPARE(element->gridGeometry(), plot);
+        // The chart layout gives the axis whole pixels.
+        const QRectF axisRect = element->axisGeometry();
+        QVERIFY(std::abs(axisRect.top() - plot.bottom()) < 1.0);
+        for (const Tick &tick : ticksOf(element)) {
+            const QRectF box = tick.label->sceneBoundingRect();
+            QVERIFY(box.top() >= axisRect.top() + 4.0 - 0.5);
+            QVERIFY(box.bottom() <= m_chart->chart()->size().height());
+            QVERIFY(box.left() >= 0.0 && box.right() <= m_chart->chart()->size().width());
+        }
+    }
+};
+
+QTEST_MAIN(tst_HorizontalAxis)
+#include "tst_HorizontalAxis.moc"

@@ -1,0 +1,272 @@
+#include "ChartTestSupport.h"
+
+#include <ko/qtToolkit/charts/ChartHelpers.h>
+#include <ko/qtToolkit/charts/LogarithmicAxis.h>
+#include <ko/qtToolkit/charts/VerticalAxis.h>
+
+#include <TestSupport.h>
+
+#include <QTest>
+#include <QtCharts/private/chartpresenter_p.h>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace ko::qtToolkit::charts;
+using namespace ko::qtToolkit::test;
+using QtCharts::ChartPresenter;
+
+namespace {
+
+const QRectF leftAxisRect(0, 0, 60, 400);
+const QRectF rightAxisRect(760, 0, 60, 400);
+const QRectF gridRect(60, 20, 700, 360);
+
+} // namespace
+
+class tst_VerticalAxis : public QObject
+{
+    Q_OBJECT
+
+private:
+    TestChart *m_chart = nullptr;
+    LogarithmicAxis *m_axis = nullptr;
+
+    // The element of a 1..1000 axis at \a alignment, laid out by hand into \a axisRect and the
+    // grid, as the chart layout would do it.
+    VerticalAxis *layOut(Qt::Alignment alignment, const QRectF &axisRect)
+    {
+        m_axis = m_chart->addAxis(new LogarithmicAxis, alignment);
+        m_axis->setRange(1.0, 1000.0);
+        m_axis->setLabelsFont(fixedFont());
+        m_chart->layout();
+        auto *element = TestChart::element<VerticalAxis>(*m_axis);
+        element->setGeometry(axisRect, gridRect);
+        return element;
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        useFixedFont();
+    }
+
+    void init()
+    {
+        m_chart = new TestChart;
+    }
+
+    void cleanup()
+    {
+        delete m_chart;
+        m_chart = nullptr;
+    }
+
+    void leftAxis()
+    {
+        VerticalAxis *element = layOut(Qt::AlignLeft, leftAxisRect);
+        QCOMPARE(lineAt(element->arrowGroup(), 0)->line(), QLineF(60, 20, 60, 380));
+        const QVector<Tick> ticks = ticksOf(element);
+        QCOMPARE(ticks.size(), 10);
+        for (const Tick &tick : ticks) {
+            const qreal y = gridRect.bottom() - std::log10(tick.value) / 3.0 * gridRect.height();
+            QCOMPARE(tick.grid->line().y1(), y);
+            QCOMPARE(tick.grid->line(), QLineF(gridRect.left(), y, gridRect.right(), y));
+            QCOMPARE(tick.mark->line(), QLineF(56, y, 60, y));
+            // A label box as wide as its text ends 6 px left of the axis edge, centred on the
+            // tick to the nearest whole pixel.
+            const QRectF box = tick.label->boundingRect();
+            QCOMPARE(tick.label->pos().x(), std::round(54.0 - box.width()));
+            QVERIFY(std::abs(tick.label->pos().y() + box.height() / 2.0 - y) <= 0.5);
+            QCOMPARE(tick.label->pos().y(), std::round(tick.label->pos().y()));
+        }
+    }
+
+    void rightAxis()
+    {
+        VerticalAxis *element = layOut(Qt::AlignRight, rightAxisRect);
+        QCOMPARE(lineAt(element->arrowGroup(), 0)->line(), QLineF(760, 20, 760, 380));
+        for (const Tick &tick : ticksOf(element)) {
+            const qreal y = coordToPixel(*m_axis, tick.value);
+            QCOMPARE(tick.mark->line(), QLineF(760, y, 764, y));
+            QCOMPARE(tick.label->pos().x(), 766.0);
+        }
+    }
+
+    void leftAxisTitle()
+    {
+        VerticalAxis *element = layOut(Qt::AlignLeft, leftAxisRect);
+        m_axis->setTitleText(QStringLiteral("Level"));
+        element->setGeometry(QRectF(0, 0, 80, 400), gridRect);
+        QGraphicsTextItem *title = element->titleItem();
+        QCOMPARE(title->toPlainText(), QStringLiteral("Level"));
+        QCOMPARE(title->rotation(), 270.0);
+        // Turned about its middle, it is centred on the grid vertically and its upright text
+        // starts 2 px right of the axis's left edge.
+        const QRectF box = title->sceneBoundingRect();
+        QCOMPARE(box.center().y(), gridRect.center().y());
+        QCOMPARE(box.left(), 2.0);
+        QVERIFY(box.height() > box.width());
+    }
+
+    void rightAxisTitle()
+    {
+        VerticalAxis *element = layOut(Qt::AlignRight, rightAxisRect);
+        m_axis->setTitleText(QStringLiteral("Level"));
+        element->setGeometry(QRectF(760, 0, 80, 400), gridRect);
+        const QRectF box = element->titleItem()->sceneBoundingRect();
+        QCOMPARE(element->titleItem()->rotation(), 270.0);
+        QCOMPARE(box.center().y(), gridRect.center().y());
+        QCOMPARE(box.right(), 838.0);
+    }
+
+    void tallNarrowAxisKeepsLongLabels()
+    {
+        VerticalAxis *element = layOut(Qt::AlignLeft, leftAxisRect);
+        m_axis->setLabelFormat(QStringLiteral("%.1f kilopascal"));
+        // Far narrower than the labels, but tall: the height sets the labels' width limit.
+        element->setGeometry(QRectF(0, 0, 30, 400), gridRect);
+        for (int i = 0; i < element->labels().size(); ++i) {
+            const QString shown = textAt(element->labelGroup(), i)->toPlainText();
+            QCOMPARE(shown, element->labels().at(i));
+            QVERIFY(ChartPresenter::textBoundingRect(fixedFont(), shown, 0.0).width() > 30.0);
+        }
+    }
+
+    void labelHeightLimit()
+    {
+        VerticalAxis *element = layOut(Qt::AlignLeft, leftAxisRect);
+        m_axis->ticker()->setTickCount(20);
+        m_axis->setRange(1.0, 1001.0);
+        // Twenty labels on 200 px: 200 / 20 - 8 = 2 px each, less than a line of text.
+        element->setGeometry(QRectF(0, 0, 60, 200), gridRect);
+        QVERIFY(element->labels().size() >= 20);
+        for (int i = 0; i < element->labels().size(); ++i)
+            QVERIFY(textAt(element->labelGroup(), i)->toPlainText() != element->labels().at(i));
+    }
+
+    void otherAlignmentLeavesItemsUnplaced()
+    {
+        m_axis = m_chart->addAxis(new LogarithmicAxis, Qt::AlignBottom);
+        m_axis->setRange(1.0, 1000.0);
+        m_chart->layout();
+        QGraphicsRectItem root;
+        VerticalAxis element(m_axis, &root);
+        element.setGeometry(leftAxisRect, gridRect);
+        QCOMPARE(lineAt(element.arrowGroup(), 0)->line(), QLineF());
+        for (const Tick &tick : ticksOf(&element)) {
+            QCOMPARE(tick.mark->line(), QLineF());
+            QCOMPARE(tick.label->pos(), QPointF(0, 0));
+        }
+    }
+
+    void minimumSizeHint_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<bool>("titleVisible");
+        QTest::newRow("no title") << "" << true;
+        QTest::newRow("title") << "Level" << true;
+        QTest::newRow("hidden title") << "Level" << false;
+    }
+
+    void minimumSizeHint()
+    {
+        QFETCH(QString, title);
+        QFETCH(bool, titleVisible);
+
+        VerticalAxis *element = layOut(Qt::AlignLeft, leftAxisRect);
+        m_axis->setTitleText(title);
+        m_axis->setTitleVisible(titleVisible);
+        const QRectF dots = ChartPresenter::textBoundingRect(fixedFont(), QStringLiteral("..."), 0.0);
+        const qreal titleWidth = title.isEmpty() || !titleVisible
+            ? 0.0
+            : ChartPresenter::textBoundingRect(m_axis->titleFont(), QStringLiteral("..."), 0.0).height() + 4.0;
+        QCOMPARE(element->sizeHint(Qt::MinimumSize),
+                 QSizeF(titleWidth + dots.width() + 4.0 + 1.0, dots.height() / 2.0));
+    }
+
+    void preferredSizeHint_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<int>("angle");
+        QTest::newRow("no title") << "" << 0;
+        QTest::newRow("title") << "Level" << 0;
+        QTest::newRow("turned labels") << "" << 90;
+    }
+
+    void preferredSizeHint()
+    {
+        QFETCH(QString, title);
+        QFETCH(int, angle);
+
+        VerticalAxis *element = layOut(Qt::AlignLeft, leftAxisRect);
+        m_axis->setTitleText(title);
+        m_axis->setLabelsAngle(angle);
+        const QStringList labels = element->allLabels();
+        QCOMPARE(labels, QStringList({"300.00", "600.00", "900.00", "100.00", "200.00", "400.00", "500.00", "700.00",
+                                      "800.00", "1000.00"}));
+        qreal width = 0.0;
+        for (const QString &label : labels)
+            width = std::max(width, ChartPresenter::textBoundingRect(fixedFont(), label, angle).width());
+        const qreal firstHeight = ChartPresenter::textBoundingRect(fixedFont(), labels.constFirst(), angle).height();
+        const qreal lastHeight = ChartPresenter::textBoundingRect(fixedFont(), labels.constLast(), angle).height();
+        const qreal titleWidth =
+            title.isEmpty() ? 0.0 : ChartPresenter::textBoundingRect(m_axis->titleFont(), title, 0.0).height() + 4.0;
+        QCOMPARE(element->sizeHint(Qt::PreferredSize),
+                 QSizeF(titleWidth + width + 4.0 + 2.0, std::max(firstHeight, lastHeight) / 2.0));
+    }
+
+    void preferredSizeHintWithoutLabels_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::newRow("no title") << "";
+        QTest::newRow("title") << "A rather long title";
+    }
+
+    void preferredSizeHintWithoutLabels()
+    {
+        QFETCH(QString, title);
+
+        EmptyTicker ticker;
+        VerticalAxis *element = layOut(Qt::AlignLeft, leftAxisRect);
+        m_axis->setTicker(&ticker);
+        m_axis->setTitleText(title);
+        QVERIFY(element->allLabels().isEmpty());
+        if (title.isEmpty()) {
+            QCOMPARE(element->sizeHint(Qt::PreferredSize), QSizeF(6.0, 0.0));
+        } else {
+            const QRectF titleRect = ChartPresenter::textBoundingRect(m_axis->titleFont(), title, 0.0);
+            QCOMPARE(element->sizeHint(Qt::PreferredSize),
+                     QSizeF(titleRect.height() + 4.0 + 6.0, titleRect.width() / 2.0));
+        }
+        m_axis->setTicker(nullptr);
+    }
+
+    void otherSizeHints()
+    {
+        VerticalAxis *element = layOut(Qt::AlignLeft, leftAxisRect);
+        QCOMPARE(element->sizeHint(Qt::MaximumSize), QSizeF(-1, -1));
+        QCOMPARE(element->sizeHint(Qt::MinimumDescent), QSizeF(-1, -1));
+    }
+
+    void chartReservesRoomForLabels()
+    {
+        m_axis = m_chart->addAxis(new LogarithmicAxis, Qt::AlignLeft);
+        m_axis->setRange(1.0, 1000.0);
+        m_chart->layout();
+        auto *element = TestChart::element<VerticalAxis>(*m_axis);
+        const QRectF plot = m_chart->chart()->plotArea();
+        QCOMPARE(element->gridGeometry(), plot);
+        // The chart layout gives the axis whole pixels.
+        const QRectF axisRect = element->axisGeometry();
+        QVERIFY(std::abs(axisRect.right() - plot.left()) < 1.0);
+        for (const Tick &tick : ticksOf(element)) {
+            const QRectF box = tick.label->sceneBoundingRect();
+            QVERIFY(box.right() <= axisRect.right() - 6.0 + 0.5);
+            QVERIFY(box.left() >= 0.0);
+        }
+    }
+};
+
+QTEST_MAIN(tst_VerticalAxis)
+#include "tst_VerticalAxis.moc"
