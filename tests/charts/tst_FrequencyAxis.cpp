@@ -64,7 +64,9 @@ struct FrequencyChart
     FrequencyAxis *frequency = new FrequencyAxis;
     LinearAxis *level = new LinearAxis;
 
-    explicit FrequencyChart(double min = 20.0, double max = 20000.0)
+    // Wide enough that no label is truncated: each minor label may take the axis width divided
+    // by the number of minor ticks, less 8 pixels.
+    explicit FrequencyChart(double min = 20.0, double max = 20000.0, int width = 1000)
     {
         chart->setAnimationOptions(QtCharts::QChart::NoAnimation);
         chart->legend()->hide();
@@ -82,7 +84,7 @@ struct FrequencyChart
         level->setLabelsVisible(false);
         level->setMinorLabelsVisible(false);
         view.setChart(chart);
-        view.resize(1000, 400);
+        view.resize(width, 400);
         view.show();
         QApplication::processEvents();
     }
@@ -241,7 +243,7 @@ private Q_SLOTS:
 
     void drawnLabelsUpTo100k()
     {
-        FrequencyChart chart(20.0, 100000.0);
+        FrequencyChart chart(20.0, 100000.0, 1800);
         const QStringList texts = textsOf(drawnLabels(chart.view));
         for (const char *text : {"100", "1k", "10k", "100k", "20", "80", "800", "8k", "20k", "40k", "60k", "80k"})
             QVERIFY2(texts.count(QLatin1String(text)) == 1, text);
