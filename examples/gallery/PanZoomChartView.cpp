@@ -1,0 +1,87 @@
+#include "PanZoomChartView.h"
+
+#include <ko/qtToolkit/charts/ChartHelpers.h>
+
+#include <QMouseEvent>
+#include <QWheelEvent>
+
+namespace gallery {
+
+namespace charts = ko::qtToolkit::charts;
+
+PanZoomChartView::PanZoomChartView(QtCharts::QChart *chart, QtCharts::QAbstractAxis *horizontal,
+                                   const AxisLimits &horizontalLimits, QtCharts::QAbstractAxis *vertical,
+                                   const AxisLimits &verticalLimits, QWidget *parent)
+    : QChartView(chart, parent)
+    , m_horizontal(horizontal)
+    , m_vertical(vertical)
+    , m_horizontalLimits(horizontalLimits)
+    , m_verticalLimits(verticalLimits)
+{
+    setRenderHint(QPainter::Antialiasing);
+    setMouseTracking(true);
+}
+
+void PanZoomChartView::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton) {
+        QChartView::mousePressEvent(event);
+        return;
+    }
+    m_dragging = true;
+    m_last = chartPoint(event->localPos());
+    reportValuesAt(m_last);
+    setCursor(Qt::ClosedHandCursor);
+    event->accept();
+}
+
+void PanZoomChartView::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPointF point = chartPoint(event->localPos());
+    if (m_dragging) {
+        // The value under the pointer stays under it: the axes move by what lies between the
+        // last position and this one.
+        charts::translate(*m_horizontal, charts::pixelToCoordDelta(*m_horizontal, m_last.x(), point.x()),
+                          m_horizontalLimits.lowerBound, m_horizontalLimits.upperBound);
+        charts::translate(*m_vertical, charts::pixelToCoordDelta(*m_vertical, m_last.y(), point.y()),
+                          m_verticalLimits.lowerBound, m_verticalLimits.upperBound);
+        m_last = point;
+    }
+    reportValuesAt(point);
+    QChartView::mouseMoveEvent(event);
+}
+
+void PanZoomChartView::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (!m_dragging) {
+        QChartView::mouseReleaseEvent(event);
+        return;
+    }
+    m_dragging = false;
+    unsetCursor();
+    event->accept();
+}
+
+void PanZoomChartView::wheelEvent(QWheelEvent *event)
+{
+    const QPointF point = chartPoint(event->position());
+    const double factor = event->angleDelta().y() > 0 ? 0.8 : 1.25;
+    charts::scale(*m_horizontal, charts::pixelToCoord(*m_horizontal, point.x()), factor,
+                  m_horizontalLimits.minimumSpan, m_horizontalLimits.maximumMagnitude);
+    charts::scale(*m_vertical, charts::pixelToCoord(*m_vertical, point.y()), factor, m_verticalLimits.minimumSpan,
+                  m_verticalLimits.maximumMagnitude);
+    reportValuesAt(point);
+    event->accept();
+}
+
+QPointF PanZoomChartView::chartPoint(const QPointF &viewPoint) const
+{
+    return chart()->mapFromScene(mapToScene(viewPoint.toPoint()));
+}
+
+void PanZoomChartView::reportValuesAt(const QPointF &point)
+{
+    Q_EMIT pointed(charts::pixelToCoord(*m_horizontal, point.x()), charts::pixelToCoord(*m_vertical, point.y()));
+}
+
+} // namespace gallery

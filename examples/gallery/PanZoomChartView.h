@@ -1,0 +1,58 @@
+#ifndef KO_QTTOOLKIT_GALLERY_PANZOOMCHARTVIEW_H
+#define KO_QTTOOLKIT_GALLERY_PANZOOMCHARTVIEW_H
+
+#include <QtCharts/QChartView>
+
+namespace QtCharts {
+class QAbstractAxis;
+}
+
+namespace gallery {
+
+/// How far a user may pan and zoom one axis.
+struct AxisLimits
+{
+    double lowerBound;       ///< lowest value a pan may reach (logarithmic axes only)
+    double upperBound;       ///< highest value a pan may reach (logarithmic axes only)
+    double minimumSpan;      ///< narrowest range a zoom may reach
+    double maximumMagnitude; ///< widest range, and largest bound, a zoom may reach
+};
+
+/**
+ * A chart view whose horizontal and vertical axis pan while the plot is dragged and zoom about
+ * the pointer when the wheel turns, through the library's axis helpers. It reports the axis
+ * values under the pointer (or finger) as it moves.
+ */
+class PanZoomChartView : public QtCharts::QChartView
+{
+    Q_OBJECT
+
+public:
+    PanZoomChartView(QtCharts::QChart *chart, QtCharts::QAbstractAxis *horizontal, const AxisLimits &horizontalLimits,
+                     QtCharts::QAbstractAxis *vertical, const AxisLimits &verticalLimits, QWidget *parent = nullptr);
+
+Q_SIGNALS:
+    /// The values of the horizontal and vertical axis under the pointer.
+    void pointed(double horizontalValue, double verticalValue);
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+
+private:
+    QPointF chartPoint(const QPointF &viewPoint) const;
+    void reportValuesAt(const QPointF &chartPoint);
+
+    QtCharts::QAbstractAxis *m_horizontal;
+    QtCharts::QAbstractAxis *m_vertical;
+    AxisLimits m_horizontalLimits;
+    AxisLimits m_verticalLimits;
+    bool m_dragging = false;
+    QPointF m_last;
+};
+
+} // namespace gallery
+
+#endif
