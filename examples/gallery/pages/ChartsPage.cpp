@@ -2,9 +2,9 @@
 // tickers, with labels at the minor ticks. Drag the plot to pan, turn the wheel to zoom.
 
 #include "GalleryPage.h"
+#include "PanZoomChartView.h"
 
 #include <ko/qtToolkit/charts/AxisTicker.h>
-#include <ko/qtToolkit/charts/ChartHelpers.h>
 #include <ko/qtToolkit/charts/LinearAxis.h>
 #include <ko/qtToolkit/charts/LogarithmicAxis.h>
 #include <ko/qtToolkit/charts/LogarithmicAxisTicker.h>
@@ -12,10 +12,8 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include <QWheelEvent>
 #include <QtCharts/QChartView>
 #include <QtCharts/QLineSeries>
 
@@ -29,86 +27,6 @@ constexpr double timeMin = 0.0;
 constexpr double timeMax = 100.0;
 constexpr double levelMin = 1.0;
 constexpr double levelMax = 10000.0;
-
-// A chart view that pans its two axes while the plot is dragged and zooms them about the
-// pointer when the wheel turns, through the library's axis helpers.
-class PanZoomChartView : public QtCharts::QChartView
-{
-public:
-    PanZoomChartView(QtCharts::QChart *chart, charts::LinearAxis *time, charts::LogarithmicAxis *level)
-        : QChartView(chart)
-        , m_time(time)
-        , m_level(level)
-    {
-        setRenderHint(QPainter::Antialiasing);
-        setMinimumSize(480, 320);
-    }
-
-    void resetView()
-    {
-        m_time->setRange(timeMin, timeMax);
-        m_level->setRange(levelMin, levelMax);
-    }
-
-protected:
-    void mousePressEvent(QMouseEvent *event) override
-    {
-        if (event->button() != Qt::LeftButton) {
-            QChartView::mousePressEvent(event);
-            return;
-        }
-        m_dragging = true;
-        m_last = chartPoint(event->localPos());
-        setCursor(Qt::ClosedHandCursor);
-        event->accept();
-    }
-
-    void mouseMoveEvent(QMouseEvent *event) override
-    {
-        if (!m_dragging) {
-            QChartView::mouseMoveEvent(event);
-            return;
-        }
-        // The value under the pointer stays under it: the axes move by what lies between the
-        // last position and this one.
-        const QPointF point = chartPoint(event->localPos());
-        charts::translate(*m_time, charts::pixelToCoordDelta(*m_time, m_last.x(), point.x()), -1e9, 1e9);
-        charts::translate(*m_level, charts::pixelToCoordDelta(*m_level, m_last.y(), point.y()), 1e-3, 1e7);
-        m_last = point;
-        event->accept();
-    }
-
-    void mouseReleaseEvent(QMouseEvent *event) override
-    {
-        if (!m_dragging) {
-            QChartView::mouseReleaseEvent(event);
-            return;
-        }
-        m_dragging = false;
-        unsetCursor();
-        event->accept();
-    }
-
-    void wheelEvent(QWheelEvent *event) override
-    {
-        const QPointF point = chartPoint(event->position());
-        const double factor = event->angleDelta().y() > 0 ? 0.8 : 1.25;
-        charts::scale(*m_time, charts::pixelToCoord(*m_time, point.x()), factor, 0.5, 1e6);
-        charts::scale(*m_level, charts::pixelToCoord(*m_level, point.y()), factor, 1e-2, 1e7);
-        event->accept();
-    }
-
-private:
-    QPointF chartPoint(const QPointF &viewPoint) const
-    {
-        return chart()->mapFromScene(mapToScene(viewPoint.toPoint()));
-    }
-
-    charts::LinearAxis *m_time;
-    charts::LogarithmicAxis *m_level;
-    bool m_dragging = false;
-    QPointF m_last;
-};
 
 QtCharts::QLineSeries *createLevelSeries()
 {
@@ -154,7 +72,8 @@ QWidget *createChartsPage()
     series->attachAxis(time);
     series->attachAxis(level);
 
-    auto *view = new PanZoomChartView(chart, time, level);
+    auto *view = new gallery::PanZoomChartView(chart, time, {-1e9, 1e9, 0.5, 1e6}, level, {1e-3, 1e7, 1e-2, 1e7});
+    view->setMinimumSize(480, 320);
 
     auto *minorLabels = new QCheckBox(QStringLiteral("Minor labels"));
     minorLabels->setChecked(true);
@@ -162,7 +81,10 @@ QWidget *createChartsPage()
     QObject::connect(minorLabels, &QCheckBox::toggled, level, &charts::LogarithmicAxis::setMinorLabelsVisible);
 
     auto *reset = new QPushButton(QStringLiteral("Reset view"));
-    QObject::connect(reset, &QPushButton::clicked, view, [view] { view->resetView(); });
+    QObject::connect(reset, &QPushButton::clicked, time, [time, level] {
+        time->setRange(timeMin, timeMax);
+        level->setRange(levelMin, levelMax);
+    });
 
     auto *controls = new QHBoxLayout;
     controls->addWidget(new QLabel(QStringLiteral("Drag the plot to pan, turn the wheel to zoom.")), 1);
