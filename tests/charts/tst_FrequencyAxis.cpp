@@ -83,7 +83,10 @@ struct FrequencyChart
         // The level axis draws no labels, so that every label on screen is the frequency axis's.
         level->setLabelsVisible(false);
         level->setMinorLabelsVisible(false);
+        // setChart() releases the view's default chart without deleting it.
+        QtCharts::QChart *defaultChart = view.chart();
         view.setChart(chart);
+        delete defaultChart;
         view.resize(width, 400);
         view.show();
         QApplication::processEvents();
