@@ -103,6 +103,7 @@ private Q_SLOTS:
     void dragPath_data();
     void dragPath();
     void singleStepKeptAfterDrag();
+    void zeroSingleStepDuringDrag();
     void releaseWithoutGrabSignals();
     void anyButtonReleaseEndsTheGrab();
     void wheelNeverMovesTheFader_data();
@@ -397,6 +398,26 @@ void tst_Fader::singleStepKeptAfterDrag()
     const int before = scene.fader->value();
     scene.fader->triggerAction(QAbstractSlider::SliderSingleStepAdd);
     QCOMPARE(scene.fader->value(), before + 10);
+}
+
+void tst_Fader::zeroSingleStepDuringDrag()
+{
+    Scene scene(Qt::Vertical);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    const QPoint grab = sliderHandleRect(*scene.fader).center();
+
+    QTest::mousePress(scene.fader, Qt::LeftButton, {}, grab);
+    moveHeld(scene.fader, grab + QPoint(0, -11));
+    QCOMPARE(scene.fader->singleStep(), 10);
+    // A step the application sets during the drag is used at once; 0 counts as 1.
+    scene.fader->setSingleStep(0);
+    moveHeld(scene.fader, grab + QPoint(0, -20));
+    QCOMPARE(scene.fader->value(), 70);
+    scene.fader->setSingleStep(4);
+    moveHeld(scene.fader, grab + QPoint(0, -21));
+    QCOMPARE(scene.fader->value(), 55);
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, grab + QPoint(0, -21));
+    QCOMPARE(scene.fader->value(), 55);
 }
 
 void tst_Fader::releaseWithoutGrabSignals()

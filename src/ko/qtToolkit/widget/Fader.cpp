@@ -97,6 +97,8 @@ void FaderPrivate::move(const QMouseEvent *event)
     const bool horizontal = q->orientation() == Qt::Horizontal;
     // Moving right or up raises the value.
     const int along = horizontal ? -delta.x() : delta.y();
+    // The mode set the single step, but the application may change it during a drag: a step of
+    // 0 counts as 1 rather than dividing by zero.
     switch (mode) {
     case Mode::Undecided: {
         const int across = horizontal ? delta.y() : delta.x();
