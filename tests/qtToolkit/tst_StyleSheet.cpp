@@ -355,15 +355,18 @@ private Q_SLOTS:
         row("*::up-arrow:off", L{QStringLiteral("url(:/ic_arrow_drop_up_gray_24px.svg)")});
         row("*::down-arrow:off", L{QStringLiteral("url(:/ic_arrow_drop_down_gray_24px.svg)")});
         row("*::down-arrow:disabled", L{QStringLiteral("url(:/ic_arrow_drop_down_gray_24px.svg)")});
+        row("QMenu::right-arrow", L{QStringLiteral("url(:/ic_arrow_drop_right_black_24px.svg)")});
+        row("QMenu::right-arrow:disabled", L{QStringLiteral("url(:/ic_arrow_drop_right_gray_24px.svg)")});
+        row("QComboBox::drop-down", L{});
         row("QComboBox::down-arrow", L{QStringLiteral("url(:/ic_arrow_drop_updown_white_24px.svg)"),
                                        QStringLiteral("width: 24;"), QStringLiteral("height: 24;")});
         row("QComboBox::down-arrow:disabled", L{QStringLiteral("url(:/ic_arrow_drop_updown_gray_24px.svg)")});
         // 9. Tabs
         row("QTabWidget::pane", L{QStringLiteral("border: 1 solid black;"), QStringLiteral("background: white;")});
-        row("QTabBar::tab:top", L{});
-        row("QTabBar::tab:left", L{});
-        row("QTabBar::tab:bottom", L{});
-        row("QTabBar::tab:right", L{});
+        row("QTabBar::tab:top", L{QStringLiteral("margin-right:")});
+        row("QTabBar::tab:left", L{QStringLiteral("margin-bottom:")});
+        row("QTabBar::tab:bottom", L{QStringLiteral("margin-right:")});
+        row("QTabBar::tab:right", L{QStringLiteral("margin-bottom:")});
         // 10. Close buttons
         row("QPushButton[class=close]",
             L{QStringLiteral("border: none;"), QStringLiteral("min-width: 13;"), QStringLiteral("max-width: 13;"),
