@@ -1,9 +1,29 @@
 #include <ko/qtToolkit/qtToolkit.h>
+#include <ko/qtToolkit/dialog/Keypad.h>
+#include <ko/qtToolkit/widget/Button.h>
+#include <ko/qtToolkit/widget/ButtonGroup.h>
+#include <ko/qtToolkit/widget/ComboBox.h>
+#include <ko/qtToolkit/widget/ElidedButton.h>
+#include <ko/qtToolkit/widget/ElidedLabel.h>
+#include <ko/qtToolkit/widget/Fader.h>
+#include <ko/qtToolkit/widget/GenericDataFader.h>
+#include <ko/qtToolkit/widget/HeaderViewWidget.h>
+#include <ko/qtToolkit/widget/Keypad.h>
+#include <ko/qtToolkit/widget/LevelMeter.h>
+#include <ko/qtToolkit/widget/ListWidget.h>
+#include <ko/qtToolkit/widget/TableWidget.h>
+#include <ko/qtToolkit/widget/TextEntry.h>
+#include <ko/qtToolkit/widget/ToggleButtonGroup.h>
+#include <ko/qtToolkit/widget/listWithButtons/ListWrapper.h>
+#include <ko/qtToolkit/widget/listWithButtons/NavigatorButtonNext.h>
+#include <ko/qtToolkit/widget/listWithButtons/NavigatorButtonPrevious.h>
+#include <ko/qtToolkit/widget/listWithButtons/WidgetBase.h>
 
 #include <TestSupport.h>
 
 #include <QtGui/private/qcssparser_p.h>
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
@@ -25,6 +45,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <memory>
 #include <optional>
 
 namespace {
@@ -81,6 +102,78 @@ std::optional<Rule> findRule(const QVector<Rule> &rules, const QString &selector
             found = rule;
     }
     return found;
+}
+
+class FixedTable : public ko::qtToolkit::widget::TableWidget
+{
+public:
+    QSize headerSectionSize(Qt::Orientation) const override { return {60, 24}; }
+};
+
+// One instance of each widget class of the library, by class name, inside \a host.
+QWidget *createLibraryWidget(const QString &name, QWidget *host)
+{
+    namespace w = ko::qtToolkit::widget;
+    namespace lwb = ko::qtToolkit::widget::listWithButtons;
+    if (name == QLatin1String("Button"))
+        return new w::Button(QStringLiteral("Button"), host);
+    if (name == QLatin1String("ButtonGroup")) {
+        auto *group = new w::ButtonGroup(host);
+        group->addButton(QStringLiteral("A"), true);
+        group->addButton(QStringLiteral("B"), false);
+        return group;
+    }
+    if (name == QLatin1String("ToggleButtonGroup"))
+        return new w::ToggleButtonGroup(host);
+    if (name == QLatin1String("ElidedLabel"))
+        return new w::ElidedLabel(QStringLiteral("A rather long label text"), host);
+    if (name == QLatin1String("ElidedButton"))
+        return new w::ElidedButton(QStringLiteral("A rather long caption"), host);
+    if (name == QLatin1String("ComboBox")) {
+        auto *combo = new w::ComboBox(host);
+        combo->addItems({QStringLiteral("a"), QStringLiteral("b")});
+        return combo;
+    }
+    if (name == QLatin1String("ListWidget")) {
+        auto *list = new w::ListWidget(host);
+        list->addItem(new w::Button(QStringLiteral("Row")));
+        return list;
+    }
+    if (name == QLatin1String("TableWidget")) {
+        auto *table = new FixedTable;
+        table->setParent(host);
+        table->setColumnCount(2);
+        table->setWidgetForHeaderSection(0, Qt::Horizontal, new w::Button(QStringLiteral("Head")));
+        return table;
+    }
+    if (name == QLatin1String("HeaderViewWidget"))
+        return new w::HeaderViewWidget(Qt::Horizontal, host);
+    if (name == QLatin1String("Fader"))
+        return new w::Fader(Qt::Vertical, host);
+    if (name == QLatin1String("GenericDataFader"))
+        return new w::GenericDataFader(Qt::Vertical, host);
+    if (name == QLatin1String("LevelMeter"))
+        return new w::LevelMeter(host);
+    if (name == QLatin1String("widget::Keypad"))
+        return new w::Keypad(host);
+    if (name == QLatin1String("TextEntry"))
+        return new w::TextEntry(QStringLiteral("1.00"), host);
+    if (name == QLatin1String("dialog::Keypad")) {
+        auto *keypad = new ko::qtToolkit::dialog::Keypad;
+        keypad->setParent(host, keypad->windowFlags());
+        return keypad;
+    }
+    if (name == QLatin1String("ListWrapper"))
+        return new lwb::ListWrapper(QStringLiteral("Items"), host);
+    if (name == QLatin1String("WidgetBase"))
+        return new lwb::WidgetBase(QStringLiteral("Items"), lwb::Direction::Vertical, host);
+    if (name == QLatin1String("NavigatorButtonNext"))
+        return new lwb::NavigatorButtonNext(QStringLiteral("Next"), lwb::Direction::Vertical,
+                                            *new QScrollBar(Qt::Vertical, host), host);
+    if (name == QLatin1String("NavigatorButtonPrevious"))
+        return new lwb::NavigatorButtonPrevious(QStringLiteral("Prev"), lwb::Direction::Vertical,
+                                                *new QScrollBar(Qt::Vertical, host), host);
+    return nullptr;
 }
 
 } // namespace
@@ -168,8 +261,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("selector");
         QTest::addColumn<QStringList>("declarations");
 
-        auto row = [](const char *selector, QStringList declarations) {
-            QTest::newRow(selector) << QString::fromLatin1(selector) << declarations;
+        auto row = [](const char *selector, QStringList declarations, const char *name = nullptr) {
+            QTest::newRow(name ? name : selector) << QString::fromLatin1(selector) << declarations;
         };
         using L = QStringList;
         // 1. Global
@@ -191,15 +284,28 @@ private Q_SLOTS:
         row("QPushButton:checked:disabled", L{QStringLiteral("background: #4c4c4c;")});
         row("QPushButton:disabled", L{QStringLiteral("border: 1 solid #858585;"), QStringLiteral("#c5c5c5"),
                                       QStringLiteral("#999999")});
+        row("QComboBox:hover", L{QStringLiteral("#9a9a9a"), QStringLiteral("#444444")});
+        row("QComboBox:pressed", L{QStringLiteral("#919191"), QStringLiteral("#333333")});
+        row("QComboBox:disabled", L{QStringLiteral("border: 1 solid #858585;"), QStringLiteral("#c5c5c5"),
+                                    QStringLiteral("#999999")});
         // 3. Line edits and spin boxes
         row("QLineEdit", L{QStringLiteral("border: 1 solid #8a8a8a;"), QStringLiteral("#b6b6b6"),
                            QStringLiteral("selection-color: #333333;"),
                            QStringLiteral("selection-background-color: #f1f1f1;")});
         row("QLabel", L{QStringLiteral("qproperty-alignment: AlignCenter;")});
+        row("QLineEdit", L{QStringLiteral("qproperty-alignment: AlignCenter;")}, "QLineEdit alignment");
+        row("QAbstractSpinBox", L{QStringLiteral("border: 1 solid #8a8a8a;"), QStringLiteral("#b6b6b6"),
+                                  QStringLiteral("selection-color: #333333;"),
+                                  QStringLiteral("selection-background-color: #f1f1f1;")},
+            "QAbstractSpinBox border");
         row("QAbstractSpinBox", L{QStringLiteral("qproperty-alignment: AlignLeft;")});
         // 4. Sliders and faders
         row("QSlider::groove:horizontal", L{});
         row("QSlider::handle:vertical", L{});
+        row("QSlider::groove:vertical", L{});
+        row("QSlider::handle:horizontal", L{});
+        row("QSlider::handle:hover", L{});
+        row("QSlider::handle:disabled", L{});
         row("ko--qtToolkit--widget--Fader::handle", L{});
         row("ko--qtToolkit--widget--Fader:horizontal", L{});
         row("ko--qtToolkit--widget--Fader:vertical", L{});
@@ -227,6 +333,16 @@ private Q_SLOTS:
         row("QCheckBox::indicator", L{QStringLiteral("width: 18;"), QStringLiteral("height: 18;")});
         row("QCheckBox::indicator:checked", L{QStringLiteral("url(:/ic_check_box_black_24px.svg)")});
         row("QCheckBox::indicator:checked:disabled", L{QStringLiteral("url(:/ic_check_box_gray_24px.svg)")});
+        row("QRadioButton::indicator", L{QStringLiteral("width: 18;"), QStringLiteral("height: 18;")});
+        row("QCheckBox::indicator:unchecked", L{QStringLiteral("url(:/ic_check_box_outline_blank_black_24px.svg)")});
+        row("QCheckBox::indicator:unchecked:disabled",
+            L{QStringLiteral("url(:/ic_check_box_outline_blank_gray_24px.svg)")});
+        row("QCheckBox::indicator:indeterminate", L{QStringLiteral("url(:/ic_indeterminate_check_box_black_24px.svg)")});
+        row("QCheckBox::indicator:indeterminate:disabled",
+            L{QStringLiteral("url(:/ic_indeterminate_check_box_gray_24px.svg)")});
+        row("QRadioButton::indicator:unchecked", L{QStringLiteral("url(:/ic_radio_button_unchecked_black_24px.svg)")});
+        row("QRadioButton::indicator:checked:disabled",
+            L{QStringLiteral("url(:/ic_radio_button_checked_gray_24px.svg)")});
         row("QRadioButton::indicator:checked", L{QStringLiteral("url(:/ic_radio_button_checked_black_24px.svg)")});
         row("QRadioButton::indicator:unchecked:disabled",
             L{QStringLiteral("url(:/ic_radio_button_unchecked_gray_24px.svg)")});
@@ -238,13 +354,19 @@ private Q_SLOTS:
         row("*::up-arrow:disabled", L{QStringLiteral("url(:/ic_arrow_drop_up_gray_24px.svg)")});
         row("*::up-arrow:off", L{QStringLiteral("url(:/ic_arrow_drop_up_gray_24px.svg)")});
         row("*::down-arrow:off", L{QStringLiteral("url(:/ic_arrow_drop_down_gray_24px.svg)")});
+        row("*::down-arrow:disabled", L{QStringLiteral("url(:/ic_arrow_drop_down_gray_24px.svg)")});
+        row("QMenu::right-arrow", L{QStringLiteral("url(:/ic_arrow_drop_right_black_24px.svg)")});
+        row("QMenu::right-arrow:disabled", L{QStringLiteral("url(:/ic_arrow_drop_right_gray_24px.svg)")});
+        row("QComboBox::drop-down", L{});
         row("QComboBox::down-arrow", L{QStringLiteral("url(:/ic_arrow_drop_updown_white_24px.svg)"),
                                        QStringLiteral("width: 24;"), QStringLiteral("height: 24;")});
         row("QComboBox::down-arrow:disabled", L{QStringLiteral("url(:/ic_arrow_drop_updown_gray_24px.svg)")});
         // 9. Tabs
         row("QTabWidget::pane", L{QStringLiteral("border: 1 solid black;"), QStringLiteral("background: white;")});
-        row("QTabBar::tab:top", L{});
-        row("QTabBar::tab:left", L{});
+        row("QTabBar::tab:top", L{QStringLiteral("margin-right:")});
+        row("QTabBar::tab:left", L{QStringLiteral("margin-bottom:")});
+        row("QTabBar::tab:bottom", L{QStringLiteral("margin-right:")});
+        row("QTabBar::tab:right", L{QStringLiteral("margin-bottom:")});
         // 10. Close buttons
         row("QPushButton[class=close]",
             L{QStringLiteral("border: none;"), QStringLiteral("min-width: 13;"), QStringLiteral("max-width: 13;"),
@@ -274,6 +396,14 @@ private Q_SLOTS:
             L{QStringLiteral("border: none;"), QStringLiteral("background: transparent;")});
         row("ko--qtToolkit--widget--listWithButtons--NavigatorButton:disabled",
             L{QStringLiteral("border: none;"), QStringLiteral("background: transparent;")});
+        row("ko--qtToolkit--widget--listWithButtons--NavigatorButton:hover",
+            L{QStringLiteral("border: none;"), QStringLiteral("background: transparent;")});
+        row("ko--qtToolkit--widget--listWithButtons--NavigatorButton:pressed",
+            L{QStringLiteral("border: none;"), QStringLiteral("background: transparent;")});
+        row("ko--qtToolkit--widget--listWithButtons--NavigatorButton[arrowType=right]",
+            L{QStringLiteral("min-width: 26;"), QStringLiteral("max-width: 26;")});
+        row("ko--qtToolkit--widget--listWithButtons--NavigatorButton[arrowType=down]",
+            L{QStringLiteral("min-height: 26;"), QStringLiteral("max-height: 26;")});
         row("ko--qtToolkit--widget--listWithButtons--NavigatorButton[arrowType=left]",
             L{QStringLiteral("min-width: 26;"), QStringLiteral("max-width: 26;")});
         row("ko--qtToolkit--widget--listWithButtons--NavigatorButton[arrowType=up]",
@@ -375,6 +505,41 @@ private Q_SLOTS:
         button.ensurePolished();
         QVERIFY(button.styleSheet().isEmpty());
         QVERIFY(qstrcmp(button.style()->metaObject()->className(), "QStyleSheetStyle") != 0);
+    }
+
+    void libraryWidgetsUseDefaultLook_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"Button", "ButtonGroup", "ToggleButtonGroup", "ElidedLabel", "ElidedButton",
+                                 "ComboBox", "ListWidget", "TableWidget", "HeaderViewWidget", "Fader",
+                                 "GenericDataFader", "LevelMeter", "widget::Keypad", "TextEntry", "dialog::Keypad",
+                                 "ListWrapper", "WidgetBase", "NavigatorButtonNext", "NavigatorButtonPrevious"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+
+    // Every widget class of the library, shown with no sheet applied, keeps the application's
+    // plain style: neither it nor any child it creates installs a sheet.
+    void libraryWidgetsUseDefaultLook()
+    {
+        QFETCH(QString, name);
+        QVERIFY(qApp->styleSheet().isEmpty());
+        QWidget host;
+        host.resize(320, 480);
+        QWidget *widget = createLibraryWidget(name, &host);
+        QVERIFY(widget);
+        host.show();
+        widget->show();
+        QVERIFY(QTest::qWaitForWindowExposed(&host));
+        QVERIFY(widget->isVisible());
+        QList<QWidget *> all = widget->findChildren<QWidget *>();
+        all.prepend(widget);
+        for (QWidget *each : qAsConst(all)) {
+            each->ensurePolished();
+            QVERIFY2(each->styleSheet().isEmpty(), each->metaObject()->className());
+            QVERIFY2(qstrcmp(each->style()->metaObject()->className(), "QStyleSheetStyle") != 0,
+                     each->metaObject()->className());
+            QCOMPARE(each->style(), QApplication::style());
+        }
     }
 };
 
