@@ -1,8 +1,9 @@
 #include <ko/qtToolkit/widget/listWithButtons/NavigatorButton.h>
 #include <ko/qtToolkit/widget/listWithButtons/WidgetBase.h>
 
+#include <TestSupport.h>
+
 #include <QBoxLayout>
-#include <QFile>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
@@ -226,10 +227,10 @@ private Q_SLOTS:
     {
         QFETCH(Direction, direction);
         QFETCH(bool, fixedWidth);
-        QFile sheet(QStringLiteral(":/qtToolkit.qss"));
-        QVERIFY(sheet.open(QIODevice::ReadOnly | QIODevice::Text));
+        const QString sheet = ko::qtToolkit::test::toolkitStyleSheet();
+        QVERIFY(!sheet.isEmpty());
         Fixture fixture(direction);
-        fixture.widget.setStyleSheet(QString::fromUtf8(sheet.readAll()));
+        fixture.widget.setStyleSheet(sheet);
         fixture.widget.resize(300, 300);
         QTRY_COMPARE(fixedWidth ? fixture.next->width() : fixture.next->height(), 26);
         QCOMPARE(fixedWidth ? fixture.previous->width() : fixture.previous->height(), 26);

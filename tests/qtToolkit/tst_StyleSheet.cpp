@@ -26,7 +26,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFile>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -49,14 +48,6 @@
 #include <optional>
 
 namespace {
-
-QString readStyleSheet()
-{
-    QFile file(QStringLiteral(":/qtToolkit.qss"));
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return {};
-    return QString::fromUtf8(file.readAll());
-}
 
 struct Rule
 {
@@ -190,7 +181,7 @@ private Q_SLOTS:
 
     void parsesAsQtStyleSheet()
     {
-        const QString text = readStyleSheet();
+        const QString text = ko::qtToolkit::test::toolkitStyleSheet();
         QVERIFY(!text.isEmpty());
         QCss::Parser parser(text);
         QCss::StyleSheet sheet;
@@ -238,7 +229,7 @@ private Q_SLOTS:
                 if (!message.contains(QLatin1String("propagateSizeHints")))
                     messages << message;
             });
-        qApp->setStyleSheet(readStyleSheet());
+        qApp->setStyleSheet(ko::qtToolkit::test::toolkitStyleSheet());
         window.show();
         menu->ensurePolished();
         table->horizontalHeader()->ensurePolished();
@@ -418,7 +409,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, selector);
         QFETCH(QStringList, declarations);
-        const QVector<Rule> all = rulesOf(readStyleSheet());
+        const QVector<Rule> all = rulesOf(ko::qtToolkit::test::toolkitStyleSheet());
         const std::optional<Rule> rule = findRule(all, selector);
         QVERIFY2(rule, qPrintable(selector));
         for (const QString &declaration : declarations)
@@ -435,7 +426,7 @@ private Q_SLOTS:
     void navigatorArrowsPerDirection()
     {
         QFETCH(QString, arrowType);
-        const QVector<Rule> all = rulesOf(readStyleSheet());
+        const QVector<Rule> all = rulesOf(ko::qtToolkit::test::toolkitStyleSheet());
         const QString base = QStringLiteral("ko--qtToolkit--widget--listWithButtons--NavigatorButton[arrowType=%1]")
                                  .arg(arrowType);
         const std::optional<Rule> normal = findRule(all, base);
@@ -449,7 +440,7 @@ private Q_SLOTS:
     // first rule of the section before.
     void sectionOrder()
     {
-        const QVector<Rule> all = rulesOf(readStyleSheet());
+        const QVector<Rule> all = rulesOf(ko::qtToolkit::test::toolkitStyleSheet());
         const char *firstOfSection[] = {
             "*",
             "QPushButton",
@@ -477,7 +468,7 @@ private Q_SLOTS:
 
     void sectionComments()
     {
-        const QString text = readStyleSheet();
+        const QString text = ko::qtToolkit::test::toolkitStyleSheet();
         int previous = -1;
         for (const char *comment : {"/* Do not highlight items */", "/* ButtonGroup with rounded top/bottom buttons */",
                                     "/* Global Scrollbar */", "/* Horizontal Scrollbar */", "/* Vertical Scrollbar */",
@@ -490,7 +481,7 @@ private Q_SLOTS:
 
     void lengthsHaveNoUnits()
     {
-        const QVector<Rule> all = rulesOf(readStyleSheet());
+        const QVector<Rule> all = rulesOf(ko::qtToolkit::test::toolkitStyleSheet());
         const QRegularExpression pixels(QStringLiteral("\\b\\d+px\\b"));
         for (const Rule &rule : all) {
             QVERIFY2(!rule.declarations.contains(pixels), qPrintable(rule.selector));

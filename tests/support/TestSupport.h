@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QColor>
 #include <QDir>
+#include <QFile>
 #include <QFont>
 #include <QImage>
 #include <QString>
@@ -24,6 +25,15 @@ inline QFont fixedFont(int pixelSize = 12)
 inline void useFixedFont(int pixelSize = 12)
 {
     QApplication::setFont(fixedFont(pixelSize));
+}
+
+/// The library's style sheet as the bundle holds it; empty when it cannot be read.
+inline QString toolkitStyleSheet()
+{
+    QFile file(QStringLiteral(":/qtToolkit.qss"));
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return {};
+    return QString::fromUtf8(file.readAll());
 }
 
 /// Where tests keep rendered images for a person to look at.

@@ -4,7 +4,6 @@
 #include <TestSupport.h>
 
 #include <QButtonGroup>
-#include <QFile>
 #include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
@@ -13,13 +12,6 @@ using ko::qtToolkit::widget::Button;
 using ko::qtToolkit::widget::ButtonGroup;
 
 namespace {
-
-QString styleSheet()
-{
-    QFile file(QStringLiteral(":/qtToolkit.qss"));
-    file.open(QIODevice::ReadOnly | QIODevice::Text);
-    return QString::fromUtf8(file.readAll());
-}
 
 using Toggles = QList<QPair<int, bool>>;
 
@@ -128,7 +120,7 @@ private Q_SLOTS:
     // The button that stops being the last one loses its rounded corners on screen at once.
     void styleHooksReachTheStyleSheet()
     {
-        qApp->setStyleSheet(styleSheet());
+        qApp->setStyleSheet(ko::qtToolkit::test::toolkitStyleSheet());
         ButtonGroup group;
         group.addButton(QStringLiteral("A"));
         Button *middle = group.addButton(QStringLiteral("B"));

@@ -2,7 +2,6 @@
 
 #include <TestSupport.h>
 
-#include <QFile>
 #include <QListView>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -261,9 +260,9 @@ private Q_SLOTS:
     // Under the library's style sheet, as applications run it.
     void popupUnderTheStyleSheet()
     {
-        QFile file(QStringLiteral(":/qtToolkit.qss"));
-        QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Text));
-        qApp->setStyleSheet(QString::fromUtf8(file.readAll()));
+        const QString sheet = ko::qtToolkit::test::toolkitStyleSheet();
+        QVERIFY(!sheet.isEmpty());
+        qApp->setStyleSheet(sheet);
         const std::unique_ptr<ComboBox> comboBox = comboBoxWith(200, QStringLiteral("Preset"));
         comboBox->setCurrentIndex(100);
         QVERIFY(openPopup(*comboBox));

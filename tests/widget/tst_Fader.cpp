@@ -3,7 +3,6 @@
 #include <WidgetSupport.h>
 #include <TestSupport.h>
 
-#include <QFile>
 #include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
@@ -54,14 +53,6 @@ void sendWheel(QWidget *widget, const QPoint &position, int angle)
     const QPoint local = widget->mapTo(widget->window(), position);
     QWindowSystemInterface::handleWheelEvent(window, local, window->mapToGlobal(local), QPoint(), QPoint(0, angle));
     QWindowSystemInterface::flushWindowSystemEvents();
-}
-
-QString readStyleSheet()
-{
-    QFile file(QStringLiteral(":/qtToolkit.qss"));
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return {};
-    return QString::fromUtf8(file.readAll());
 }
 
 // A fader shown inside a parent that records what the fader leaves to it.
@@ -559,7 +550,7 @@ void tst_Fader::modeChangeRepaintsAtOnce()
 
 void tst_Fader::modeLookFollowsStyleSheet()
 {
-    const QString sheet = readStyleSheet();
+    const QString sheet = ko::qtToolkit::test::toolkitStyleSheet();
     QVERIFY(sheet.contains(QLatin1String("ko--qtToolkit--widget--Fader[class=fine]")));
 
     Parent parent;
