@@ -2,7 +2,11 @@
 
 #include <ko/qtToolkit/charts/ChartHelpers.h>
 
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QMouseEvent>
+#include <QPushButton>
+#include <QVBoxLayout>
 #include <QWheelEvent>
 
 namespace gallery {
@@ -82,6 +86,24 @@ QPointF PanZoomChartView::chartPoint(const QPointF &viewPoint) const
 void PanZoomChartView::reportValuesAt(const QPointF &point)
 {
     Q_EMIT pointed(charts::pixelToCoord(*m_horizontal, point.x()), charts::pixelToCoord(*m_vertical, point.y()));
+}
+
+QWidget *chartPage(PanZoomChartView *view, QWidget *control, const std::function<void()> &resetView)
+{
+    auto *reset = new QPushButton(QStringLiteral("Reset view"));
+    QObject::connect(reset, &QPushButton::clicked, view, resetView);
+
+    auto *controls = new QHBoxLayout;
+    controls->addWidget(new QLabel(QStringLiteral("Drag the plot to pan, turn the wheel to zoom.")), 1);
+    if (control)
+        controls->addWidget(control);
+    controls->addWidget(reset);
+
+    auto *page = new QWidget;
+    auto *layout = new QVBoxLayout(page);
+    layout->addWidget(view, 1);
+    layout->addLayout(controls);
+    return page;
 }
 
 } // namespace gallery

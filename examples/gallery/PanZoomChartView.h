@@ -3,6 +3,8 @@
 
 #include <QtCharts/QChartView>
 
+#include <functional>
+
 namespace QtCharts {
 class QAbstractAxis;
 }
@@ -52,6 +54,12 @@ private:
     bool m_dragging = false;
     QPointF m_last;
 };
+
+/**
+ * A gallery page: \a view above a row with the pan-and-zoom hint, \a control (optional) and a
+ * "Reset view" button that calls \a resetView.
+ */
+QWidget *chartPage(PanZoomChartView *view, QWidget *control, const std::function<void()> &resetView);
 
 } // namespace gallery
 

@@ -10,10 +10,6 @@
 #include <ko/qtToolkit/charts/LogarithmicAxisTicker.h>
 
 #include <QCheckBox>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
-#include <QVBoxLayout>
 #include <QtCharts/QChartView>
 #include <QtCharts/QLineSeries>
 
@@ -80,22 +76,10 @@ QWidget *createChartsPage()
     QObject::connect(minorLabels, &QCheckBox::toggled, time, &charts::LinearAxis::setMinorLabelsVisible);
     QObject::connect(minorLabels, &QCheckBox::toggled, level, &charts::LogarithmicAxis::setMinorLabelsVisible);
 
-    auto *reset = new QPushButton(QStringLiteral("Reset view"));
-    QObject::connect(reset, &QPushButton::clicked, time, [time, level] {
+    return gallery::chartPage(view, minorLabels, [time, level] {
         time->setRange(timeMin, timeMax);
         level->setRange(levelMin, levelMax);
     });
-
-    auto *controls = new QHBoxLayout;
-    controls->addWidget(new QLabel(QStringLiteral("Drag the plot to pan, turn the wheel to zoom.")), 1);
-    controls->addWidget(minorLabels);
-    controls->addWidget(reset);
-
-    auto *page = new QWidget;
-    auto *layout = new QVBoxLayout(page);
-    layout->addWidget(view, 1);
-    layout->addLayout(controls);
-    return page;
 }
 
 const gallery::PageRegistration registration{10, QStringLiteral("Charts"), createChartsPage};

@@ -11,9 +11,6 @@
 #include <ko/qtToolkit/charts/LinearAxis.h>
 
 #include <QLabel>
-#include <QPushButton>
-#include <QHBoxLayout>
-#include <QVBoxLayout>
 #include <QtCharts/QLineSeries>
 
 #include <cmath>
@@ -111,22 +108,10 @@ QWidget *createFrequencyResponsePage()
         readout->setText(QStringLiteral("%1, %2 dB").arg(frequencyText(hz)).arg(db, 0, 'f', 1));
     });
 
-    auto *reset = new QPushButton(QStringLiteral("Reset view"));
-    QObject::connect(reset, &QPushButton::clicked, frequency, [frequency, level] {
+    return gallery::chartPage(view, readout, [frequency, level] {
         frequency->setRange(20.0, 20000.0);
         level->setRange(levelMin, levelMax);
     });
-
-    auto *controls = new QHBoxLayout;
-    controls->addWidget(new QLabel(QStringLiteral("Drag to pan, turn the wheel to zoom.")), 1);
-    controls->addWidget(readout);
-    controls->addWidget(reset);
-
-    auto *page = new QWidget;
-    auto *layout = new QVBoxLayout(page);
-    layout->addWidget(view, 1);
-    layout->addLayout(controls);
-    return page;
 }
 
 const gallery::PageRegistration registration{11, QStringLiteral("Frequency response"), createFrequencyResponsePage};
