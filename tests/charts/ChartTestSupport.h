@@ -129,6 +129,14 @@ public:
     QVector<double> createTicks(double, double, double) const override { return {}; }
 };
 
+/// A ticker that gives every tick the same label.
+class FixedLabelTicker : public charts::AxisTicker
+{
+public:
+    QString text;
+    QString tickLabel(double) const override { return text; }
+};
+
 } // namespace ko::qtToolkit::test
 
 #endif

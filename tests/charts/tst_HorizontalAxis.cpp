@@ -31,14 +31,6 @@ public:
     QString tickLabel(double value) const override { return value == 30.0 ? QString() : AxisTicker::tickLabel(value); }
 };
 
-// Gives every tick the same label.
-class FixedLabelTicker : public AxisTicker
-{
-public:
-    QString text;
-    QString tickLabel(double) const override { return text; }
-};
-
 } // namespace
 
 class tst_HorizontalAxis : public QObject
