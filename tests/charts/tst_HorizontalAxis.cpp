@@ -155,15 +155,8 @@ private Q_SLOTS:
 
     void labelHeightLimitIsAxisHeightLessPadding_data()
     {
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<bool>("titleVisible");
-        QTest::addColumn<qreal>("spare");
-        QTest::addColumn<bool>("truncated");
         // Labels may be as high as the axis less the tick mark's 4 px, and not a fraction more.
-        QTest::newRow("no title, exact fit") << "" << true << 0.0 << false;
-        QTest::newRow("no title, half a pixel short") << "" << true << -0.5 << true;
-        QTest::newRow("hidden title, exact fit") << "Pressure" << false << 0.0 << false;
-        QTest::newRow("hidden title, half a pixel short") << "Pressure" << false << -0.5 << true;
+        addLabelRoomRows();
     }
 
     void labelHeightLimitIsAxisHeightLessPadding()

@@ -135,15 +135,8 @@ private Q_SLOTS:
 
     void labelWidthLimitIsAxisHeightLessPadding_data()
     {
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<bool>("titleVisible");
-        QTest::addColumn<qreal>("spare");
-        QTest::addColumn<bool>("truncated");
         // Labels may be as wide as the axis is high, less the tick mark's 4 px.
-        QTest::newRow("no title, exact fit") << "" << true << 0.0 << false;
-        QTest::newRow("no title, half a pixel short") << "" << true << -0.5 << true;
-        QTest::newRow("hidden title, exact fit") << "Level" << false << 0.0 << false;
-        QTest::newRow("hidden title, half a pixel short") << "Level" << false << -0.5 << true;
+        addLabelRoomRows();
     }
 
     void labelWidthLimitIsAxisHeightLessPadding()
