@@ -12,6 +12,7 @@
 #include <QGraphicsTextItem>
 #include <QImage>
 #include <QPainter>
+#include <QTest>
 #include <QtCharts/QAbstractAxis>
 #include <QtCharts/QChart>
 #include <QtCharts/QLineSeries>
@@ -127,6 +128,29 @@ class EmptyTicker : public charts::AxisTicker
 {
 public:
     QVector<double> createTicks(double, double, double) const override { return {}; }
+};
+
+/// Rows for a label limit that is the axis's whole room across less the 4 px tick mark: a label
+/// that just fits, and one half a pixel too large, without a title and with a hidden one (neither
+/// takes room). Columns: title, titleVisible, spare (px added to the exact room), truncated.
+inline void addLabelRoomRows()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<bool>("titleVisible");
+    QTest::addColumn<qreal>("spare");
+    QTest::addColumn<bool>("truncated");
+    QTest::newRow("no title, exact fit") << QString() << true << 0.0 << false;
+    QTest::newRow("no title, half a pixel short") << QString() << true << -0.5 << true;
+    QTest::newRow("hidden title, exact fit") << QStringLiteral("Level") << false << 0.0 << false;
+    QTest::newRow("hidden title, half a pixel short") << QStringLiteral("Level") << false << -0.5 << true;
+}
+
+/// A ticker that gives every tick the same label.
+class FixedLabelTicker : public charts::AxisTicker
+{
+public:
+    QString text;
+    QString tickLabel(double) const override { return text; }
 };
 
 } // namespace ko::qtToolkit::test

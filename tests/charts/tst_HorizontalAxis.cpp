@@ -153,6 +153,29 @@ private Q_SLOTS:
         QCOMPARE(shown != QStringLiteral("30.00"), truncated);
     }
 
+    void labelHeightLimitIsAxisHeightLessPadding_data()
+    {
+        // Labels may be as high as the axis less the tick mark's 4 px, and not a fraction more.
+        addLabelRoomRows();
+    }
+
+    void labelHeightLimitIsAxisHeightLessPadding()
+    {
+        QFETCH(QString, title);
+        QFETCH(bool, titleVisible);
+        QFETCH(qreal, spare);
+        QFETCH(bool, truncated);
+
+        HorizontalAxis *element = layOut(Qt::AlignBottom, bottomAxisRect);
+        m_axis->setTitleText(title);
+        m_axis->setTitleVisible(titleVisible);
+        const qreal labelHeight =
+            ChartPresenter::textBoundingRect(ko::qtToolkit::test::fixedFont(), QStringLiteral("30.00"), 0.0).height();
+        element->setGeometry(QRectF(0, 300, 800, labelHeight + 4.0 + spare), gridRect);
+        QCOMPARE(element->labels().at(1), QStringLiteral("30.00"));
+        QCOMPARE(textAt(element->labelGroup(), 1)->toPlainText() != QStringLiteral("30.00"), truncated);
+    }
+
     void emptyLabelIsNotTruncated()
     {
         GapTicker ticker;
@@ -197,10 +220,47 @@ private Q_SLOTS:
             const qreal fullWidth = ChartPresenter::textBoundingRect(font, full, 0.0).width();
             QCOMPARE(shown == full, fullWidth <= maxWidth);
             QCOMPARE(shown != full, truncated);
-            QVERIFY(ChartPresenter::textBoundingRect(font, shown, 0.0).width() <= std::max(maxWidth, fullWidth));
+            // Shortened to exactly that width (the height limit is the 40 px axis less 4 px).
+            QRectF truncatedRect;
+            QCOMPARE(shown, ChartPresenter::truncatedText(font, full, 0.0, maxWidth, 36.0, truncatedRect));
             if (shown != full)
                 QVERIFY(shown.endsWith(QStringLiteral("...")));
         }
+    }
+
+    void labelWidthLimitIsExact_data()
+    {
+        QTest::addColumn<bool>("tooWide");
+        QTest::newRow("as wide as the limit allows") << false;
+        QTest::newRow("one narrow letter wider") << true;
+    }
+
+    void labelWidthLimitIsExact()
+    {
+        QFETCH(bool, tooWide);
+
+        // Ten ticks on a 500 px wide axis: each label may be 500 / 10 - 8 = 42 px wide. Narrow
+        // letters find the widest text within that to a few pixels.
+        const QFont font = ko::qtToolkit::test::fixedFont();
+        const auto width = [&font](const QString &text) {
+            return ChartPresenter::textBoundingRect(font, text, 0.0).width();
+        };
+        QString fitting;
+        while (width(fitting + QLatin1Char('l')) <= 42.0)
+            fitting += QLatin1Char('l');
+        QVERIFY(width(fitting + QLatin1Char('l')) < 46.0);
+
+        FixedLabelTicker ticker;
+        ticker.text = tooWide ? fitting + QLatin1Char('l') : fitting;
+        ticker.setTickCount(9);
+        HorizontalAxis *element = layOut(Qt::AlignBottom, bottomAxisRect);
+        m_axis->setTicker(&ticker);
+        m_axis->setRange(0.0, 9.001);
+        element->setGeometry(QRectF(0, 300, 500, 40), gridRect);
+        QCOMPARE(element->majorTickValues().size(), 10);
+        for (int i = 0; i < element->majorTickValues().size(); ++i)
+            QCOMPARE(textAt(element->labelGroup(), i)->toPlainText() != ticker.text, tooWide);
+        m_axis->setTicker(nullptr);
     }
 
     void otherAlignmentLeavesItemsUnplaced()

@@ -133,6 +133,34 @@ private Q_SLOTS:
         }
     }
 
+    void labelWidthLimitIsAxisHeightLessPadding_data()
+    {
+        // Labels may be as wide as the axis is high, less the tick mark's 4 px.
+        addLabelRoomRows();
+    }
+
+    void labelWidthLimitIsAxisHeightLessPadding()
+    {
+        QFETCH(QString, title);
+        QFETCH(bool, titleVisible);
+        QFETCH(qreal, spare);
+        QFETCH(bool, truncated);
+
+        // A label much wider than the axis; each of the three ticks has ample height for it.
+        FixedLabelTicker ticker;
+        ticker.text = QStringLiteral("level in kilopascal");
+        const qreal labelWidth = ChartPresenter::textBoundingRect(fixedFont(), ticker.text, 0.0).width();
+        VerticalAxis *element = layOut(Qt::AlignLeft, leftAxisRect);
+        m_axis->setTicker(&ticker);
+        m_axis->setTitleText(title);
+        m_axis->setTitleVisible(titleVisible);
+        element->setGeometry(QRectF(0, 0, 30, labelWidth + 4.0 + spare), gridRect);
+        QCOMPARE(element->majorTickValues().size(), 3);
+        for (int i = 0; i < element->majorTickValues().size(); ++i)
+            QCOMPARE(textAt(element->labelGroup(), i)->toPlainText() != ticker.text, truncated);
+        m_axis->setTicker(nullptr);
+    }
+
     void labelHeightLimit()
     {
         VerticalAxis *element = layOut(Qt::AlignLeft, leftAxisRect);
