@@ -819,6 +819,16 @@ void tst_AxisTicker::labelFormat_data()
     QTest::newRow("thousands grouping") << QStringLiteral("%'.0f") << 12345.0
                                         << QStringLiteral("12,345");
     QTest::newRow("no conversion") << QStringLiteral("tick") << 1.0 << QStringLiteral("tick");
+    QTest::newRow("integer") << QStringLiteral("%d") << 42.0 << QStringLiteral("42");
+    QTest::newRow("integer rounds to nearest") << QStringLiteral("%i s") << 2.9999999 << QStringLiteral("3 s");
+    QTest::newRow("negative integer rounds half away from zero")
+        << QStringLiteral("%d") << -2.5 << QStringLiteral("-3");
+    QTest::newRow("integer beyond 32 bits") << QStringLiteral("%d") << 1e12 << QStringLiteral("1000000000000");
+    QTest::newRow("integer beyond 64 bits saturates")
+        << QStringLiteral("%ld") << 1e300 << QStringLiteral("9223372036854775807");
+    QTest::newRow("integer of NaN") << QStringLiteral("%d") << notANumber << QStringLiteral("0");
+    QTest::newRow("long long integer, padded") << QStringLiteral("%05lld") << 42.0 << QStringLiteral("00042");
+    QTest::newRow("hexadecimal") << QStringLiteral("0x%X") << 255.0 << QStringLiteral("0xFF");
 }
 
 void tst_AxisTicker::labelFormat()
@@ -856,7 +866,6 @@ void tst_AxisTicker::labelFormatRefused_data()
 {
     QTest::addColumn<QString>("format");
 
-    QTest::newRow("integer conversion") << QStringLiteral("%d");
     QTest::newRow("string conversion") << QStringLiteral("%s");
     QTest::newRow("pointer write") << QStringLiteral("%n");
     QTest::newRow("two conversions") << QStringLiteral("%.2f .. %.2f");
@@ -865,6 +874,10 @@ void tst_AxisTicker::labelFormatRefused_data()
     QTest::newRow("long double") << QStringLiteral("%Lf");
     QTest::newRow("huge width") << QStringLiteral("%1000000000f");
     QTest::newRow("lone percent at the end") << QStringLiteral("value %");
+    QTest::newRow("character conversion") << QStringLiteral("%c");
+    QTest::newRow("integer with three l") << QStringLiteral("%llld");
+    QTest::newRow("double with ll") << QStringLiteral("%llf");
+    QTest::newRow("integer and double") << QStringLiteral("%d %f");
 }
 
 void tst_AxisTicker::labelFormatRefused()
@@ -873,7 +886,7 @@ void tst_AxisTicker::labelFormatRefused()
     AxisTicker ticker;
     ticker.setLabelFormat(QStringLiteral("%.1f"));
     const QByteArray warning = "AxisTicker::setLabelFormat: ignoring \"" + format.toUtf8()
-        + "\": a label format takes at most one floating-point conversion";
+        + "\": a label format takes at most one floating-point or integer conversion";
     QTest::ignoreMessage(QtWarningMsg, warning.constData());
     ticker.setLabelFormat(format);
     QCOMPARE(ticker.tickLabel(2.24), QStringLiteral("2.2"));

@@ -38,6 +38,20 @@ private Q_SLOTS:
         QCOMPARE(element->minorTickValues().size(), 29);
         QCOMPARE(element->labels().constFirst(), QStringLiteral("0.00"));
     }
+
+    // An integer format, as Qt's value axis takes it, labels whole numbers.
+    void integerLabelFormat()
+    {
+        TestChart chart;
+        auto *axis = chart.addAxis(new LinearAxis, Qt::AlignBottom);
+        axis->setRange(0.0, 100.0);
+        axis->setLabelFormat(QStringLiteral("%d ms"));
+        chart.layout();
+        auto *element = TestChart::element<ko::qtToolkit::charts::CartesianChartAxis>(*axis);
+        QCOMPARE(element->labels(), QStringList({QStringLiteral("0 ms"), QStringLiteral("30 ms"),
+                                                 QStringLiteral("60 ms"), QStringLiteral("90 ms")}));
+        QCOMPARE(element->minorLabels().constFirst(), QStringLiteral("10 ms"));
+    }
 };
 
 QTEST_MAIN(tst_LinearAxis)

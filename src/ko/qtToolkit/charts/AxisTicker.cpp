@@ -52,19 +52,25 @@ bool isUsable(const QVector<double> &ticks)
         == ticks.cend();
 }
 
-// Whether QString::asprintf with this format and one double reads that double or nothing:
-// literal text, "%%" and at most one floating-point conversion. Like asprintf, it stops at the
-// first NUL byte.
-bool takesOneDouble(const QByteArray &format)
+enum class Conversion { None, Floating, Integer, Invalid };
+
+// What QString::asprintf reads with this format: nothing (literal text and "%%"), one double
+// (e, E, f, F, g, G, a, A, with an optional l) or one integer (d, i, u, o, x, X, with an
+// optional l or ll); flags, and a width and a precision of up to three digits each, may precede
+// the conversion. Anything else is invalid. Like asprintf, it stops at the first NUL byte.
+// \a lengthBegin and \a lengthEnd, when given, receive where the length modifier of the
+// conversion stands (an empty span when there is none).
+Conversion conversionOf(const QByteArray &format, int *lengthBegin = nullptr, int *lengthEnd = nullptr)
 {
-    const char *p = format.constData();
+    const char *const begin = format.constData();
+    const char *p = begin;
     const auto skipDigits = [&p] {
         int digits = 0;
         for (; *p >= '0' && *p <= '9'; ++p)
             ++digits;
         return digits;
     };
-    int conversions = 0;
+    Conversion conversion = Conversion::None;
     while (*p) {
         if (*p++ != '%')
             continue;
@@ -72,24 +78,47 @@ bool takesOneDouble(const QByteArray &format)
             ++p;
             continue;
         }
+        if (conversion != Conversion::None)
+            return Conversion::Invalid;
         while (*p && std::strchr("-+ #0'", *p))
             ++p;
         if (skipDigits() > 3)
-            return false;
+            return Conversion::Invalid;
         if (*p == '.') {
             ++p;
             if (skipDigits() > 3)
-                return false;
+                return Conversion::Invalid;
         }
-        if (*p == 'l')
+        const char *length = p;
+        while (*p == 'l' && p - length < 2)
             ++p;
-        if (!*p || !std::strchr("eEfFgGaA", *p))
-            return false;
+        if (lengthBegin && lengthEnd) {
+            *lengthBegin = int(length - begin);
+            *lengthEnd = int(p - begin);
+        }
+        if (*p && p - length < 2 && std::strchr("eEfFgGaA", *p))
+            conversion = Conversion::Floating;
+        else if (*p && std::strchr("diuoxX", *p))
+            conversion = Conversion::Integer;
+        else
+            return Conversion::Invalid;
         ++p;
-        if (++conversions > 1)
-            return false;
     }
-    return true;
+    return conversion;
+}
+
+// An integer label shows the value rounded to the nearest whole number (halves away from zero),
+// within 64 bits.
+qlonglong labelInteger(double value)
+{
+    constexpr double limit = 9223372036854775807.0;
+    if (std::isnan(value))
+        return 0;
+    if (value >= limit)
+        return std::numeric_limits<qlonglong>::max();
+    if (value <= -limit)
+        return std::numeric_limits<qlonglong>::min();
+    return std::llround(value);
 }
 
 } // namespace
@@ -136,13 +165,23 @@ void AxisTicker::setLabelFormat(const QString &format)
     const QByteArray bytes = format.toUtf8();
     if (bytes == m_labelFormat)
         return;
-    if (!takesOneDouble(bytes)) {
+    int lengthBegin = 0;
+    int lengthEnd = 0;
+    switch (conversionOf(bytes, &lengthBegin, &lengthEnd)) {
+    case Conversion::Invalid:
         qWarning("AxisTicker::setLabelFormat: ignoring \"%s\": a label format takes at most one "
-                 "floating-point conversion",
+                 "floating-point or integer conversion",
                  bytes.constData());
         return;
+    case Conversion::Integer:
+        // The label passes a 64-bit integer, whatever length the format asked for.
+        m_labelFormat = QByteArray(bytes).replace(lengthBegin, lengthEnd - lengthBegin, "ll");
+        return;
+    case Conversion::None:
+    case Conversion::Floating:
+        m_labelFormat = bytes;
+        return;
     }
-    m_labelFormat = bytes;
 }
 
 void AxisTicker::generate(double min, double max, QVector<double> &ticks,
@@ -219,6 +258,8 @@ QString AxisTicker::tickLabel(double value) const
     if (m_labelFormat.size() == 4 && format[0] == '%' && format[1] == '.' && format[2] >= '0'
         && format[2] <= '9' && format[3] == 'f')
         return QString::number(value, 'f', format[2] - '0');
+    if (conversionOf(m_labelFormat) == Conversion::Integer)
+        return QString::asprintf(format, labelInteger(value));
     return QString::asprintf(format, value);
 }
 

@@ -98,10 +98,16 @@ public:
      * \brief Sets the printf-style format of the labels made by tickLabel().
      *
      * The format is kept as UTF-8. It may hold literal text, "%%" and at most one conversion,
-     * which must take a double: e, E, f, F, g, G, a or A, with optional flags (-, +, space, #, 0,
-     * '), a width and a precision of up to three digits each and an optional l. Any other format
-     * (for example "%d", "%s", "%*f", "%Lf" or two conversions) would read arguments that are not
-     * there; it is refused with a warning and the previous format is kept.
+     * with optional flags (-, +, space, #, 0, '), and a width and a precision of up to three
+     * digits each:
+     * - a floating-point conversion (e, E, f, F, g, G, a or A, optionally with l) shows the value;
+     * - an integer conversion (d, i, u, o, x or X, optionally with l or ll), as a Qt value axis
+     *   allows it, shows the value rounded to the nearest whole number (halves away from zero)
+     *   within 64 bits.
+     *
+     * Any other format (for example "%s", "%n", "%*f", "%Lf" or two conversions) would read
+     * arguments that are not there; it is refused with a warning and the previous format is
+     * kept.
      */
     void setLabelFormat(const QString &format);
 
