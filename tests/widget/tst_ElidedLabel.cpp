@@ -224,6 +224,23 @@ private Q_SLOTS:
         QTRY_VERIFY(counter.paints > 0);
     }
 
+    void setElideModeRecomputesEvenForTheSameMode()
+    {
+        ElidedLabel label(longText);
+        label.resize(90, 20);
+        label.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&label));
+        label.repaint();
+        const int computed = label.minimumWidth();
+        QVERIFY(computed > 0);
+        label.setMinimumWidth(0);
+        label.repaint();
+        QCOMPARE(label.minimumWidth(), 0); // the cache is valid: nothing is recomputed
+        label.setElideMode(label.elideMode());
+        label.repaint();
+        QCOMPARE(label.minimumWidth(), computed);
+    }
+
     // Showing the shortened text must not make the label repaint itself over and over.
     void paintingSettles()
     {

@@ -6,8 +6,8 @@ namespace ko::qtToolkit::widget {
 
 void ElidedLabel::setElideMode(Qt::TextElideMode mode)
 {
-    if (m_elideMode == mode)
-        return;
+    // Also for the current mode: the next paint computes the shortened text and the minimum
+    // width afresh.
     m_elideMode = mode;
     m_sourceText = QString();
     update();
