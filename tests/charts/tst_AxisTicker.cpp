@@ -829,6 +829,8 @@ void tst_AxisTicker::labelFormat_data()
     QTest::newRow("integer of NaN") << QStringLiteral("%d") << notANumber << QStringLiteral("0");
     QTest::newRow("long long integer, padded") << QStringLiteral("%05lld") << 42.0 << QStringLiteral("00042");
     QTest::newRow("hexadecimal") << QStringLiteral("0x%X") << 255.0 << QStringLiteral("0xFF");
+    QTest::newRow("two-digit width and precision") << QStringLiteral("%12.10f") << 0.5
+                                                   << QStringLiteral("0.5000000000");
 }
 
 void tst_AxisTicker::labelFormat()
@@ -873,6 +875,9 @@ void tst_AxisTicker::labelFormatRefused_data()
     QTest::newRow("precision from an argument") << QStringLiteral("%.*f");
     QTest::newRow("long double") << QStringLiteral("%Lf");
     QTest::newRow("huge width") << QStringLiteral("%1000000000f");
+    QTest::newRow("three-digit width and precision") << QStringLiteral("%0999.999g");
+    QTest::newRow("three-digit width") << QStringLiteral("%100f");
+    QTest::newRow("three-digit precision") << QStringLiteral("%.100f");
     QTest::newRow("lone percent at the end") << QStringLiteral("value %");
     QTest::newRow("character conversion") << QStringLiteral("%c");
     QTest::newRow("integer with three l") << QStringLiteral("%llld");

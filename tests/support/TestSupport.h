@@ -8,6 +8,7 @@
 #include <QFont>
 #include <QImage>
 #include <QString>
+#include <QStringList>
 
 namespace ko::qtToolkit::test {
 
@@ -49,6 +50,35 @@ inline QColor rgbAt(const QImage &image, int x, int y)
 {
     return QColor(image.pixelColor(x, y).rgb());
 }
+
+// Collects the messages logged while it lives, instead of printing them: all of them, or each
+// distinct text once.
+class MessageLog
+{
+public:
+    enum Mode { Every, Distinct };
+
+    explicit MessageLog(Mode mode = Every)
+    {
+        s_mode = mode;
+        s_messages.clear();
+        m_previous = qInstallMessageHandler(&MessageLog::handle);
+    }
+    ~MessageLog() { qInstallMessageHandler(m_previous); }
+
+    QStringList messages() const { return s_messages; }
+
+private:
+    static void handle(QtMsgType, const QMessageLogContext &, const QString &message)
+    {
+        if (s_mode == Every || !s_messages.contains(message))
+            s_messages.append(message);
+    }
+
+    static inline Mode s_mode = Every;
+    static inline QStringList s_messages;
+    QtMessageHandler m_previous;
+};
 
 } // namespace ko::qtToolkit::test
 

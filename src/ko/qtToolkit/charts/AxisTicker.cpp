@@ -1,12 +1,12 @@
 #include <ko/qtToolkit/charts/AxisTicker.h>
 
 #include "AxisTicker_p.h"
+#include "LabelFormat_p.h"
 
 #include <QtGlobal>
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <limits>
 
 namespace ko::qtToolkit::charts {
@@ -50,75 +50,6 @@ bool isUsable(const QVector<double> &ticks)
     return std::adjacent_find(ticks.cbegin(), ticks.cend(),
                               [](double a, double b) { return !(a < b); })
         == ticks.cend();
-}
-
-enum class Conversion { None, Floating, Integer, Invalid };
-
-// What QString::asprintf reads with this format: nothing (literal text and "%%"), one double
-// (e, E, f, F, g, G, a, A, with an optional l) or one integer (d, i, u, o, x, X, with an
-// optional l or ll); flags, and a width and a precision of up to three digits each, may precede
-// the conversion. Anything else is invalid. Like asprintf, it stops at the first NUL byte.
-// \a lengthBegin and \a lengthEnd, when given, receive where the length modifier of the
-// conversion stands (an empty span when there is none).
-Conversion conversionOf(const QByteArray &format, int *lengthBegin = nullptr, int *lengthEnd = nullptr)
-{
-    const char *const begin = format.constData();
-    const char *p = begin;
-    const auto skipDigits = [&p] {
-        int digits = 0;
-        for (; *p >= '0' && *p <= '9'; ++p)
-            ++digits;
-        return digits;
-    };
-    Conversion conversion = Conversion::None;
-    while (*p) {
-        if (*p++ != '%')
-            continue;
-        if (*p == '%') {
-            ++p;
-            continue;
-        }
-        if (conversion != Conversion::None)
-            return Conversion::Invalid;
-        while (*p && std::strchr("-+ #0'", *p))
-            ++p;
-        if (skipDigits() > 3)
-            return Conversion::Invalid;
-        if (*p == '.') {
-            ++p;
-            if (skipDigits() > 3)
-                return Conversion::Invalid;
-        }
-        const char *length = p;
-        while (*p == 'l' && p - length < 2)
-            ++p;
-        if (lengthBegin && lengthEnd) {
-            *lengthBegin = int(length - begin);
-            *lengthEnd = int(p - begin);
-        }
-        if (*p && p - length < 2 && std::strchr("eEfFgGaA", *p))
-            conversion = Conversion::Floating;
-        else if (*p && std::strchr("diuoxX", *p))
-            conversion = Conversion::Integer;
-        else
-            return Conversion::Invalid;
-        ++p;
-    }
-    return conversion;
-}
-
-// An integer label shows the value rounded to the nearest whole number (halves away from zero),
-// within 64 bits.
-qlonglong labelInteger(double value)
-{
-    constexpr double limit = 9223372036854775807.0;
-    if (std::isnan(value))
-        return 0;
-    if (value >= limit)
-        return std::numeric_limits<qlonglong>::max();
-    if (value <= -limit)
-        return std::numeric_limits<qlonglong>::min();
-    return std::llround(value);
 }
 
 } // namespace
@@ -165,23 +96,14 @@ void AxisTicker::setLabelFormat(const QString &format)
     const QByteArray bytes = format.toUtf8();
     if (bytes == m_labelFormat)
         return;
-    int lengthBegin = 0;
-    int lengthEnd = 0;
-    switch (conversionOf(bytes, &lengthBegin, &lengthEnd)) {
-    case Conversion::Invalid:
+    const LabelFormat checked(bytes);
+    if (!checked.isValid()) {
         qWarning("AxisTicker::setLabelFormat: ignoring \"%s\": a label format takes at most one "
                  "floating-point or integer conversion",
                  bytes.constData());
         return;
-    case Conversion::Integer:
-        // The label passes a 64-bit integer, whatever length the format asked for.
-        m_labelFormat = QByteArray(bytes).replace(lengthBegin, lengthEnd - lengthBegin, "ll");
-        return;
-    case Conversion::None:
-    case Conversion::Floating:
-        m_labelFormat = bytes;
-        return;
     }
+    m_labelFormat = checked.format();
 }
 
 void AxisTicker::generate(double min, double max, QVector<double> &ticks,
@@ -252,15 +174,7 @@ int AxisTicker::computeSubTickCount(double tickStep) const
 
 QString AxisTicker::tickLabel(double value) const
 {
-    // "%.<digit>f" (the default "%.2f" among them) formats exactly as QString::number does, which
-    // saves parsing the format for every label.
-    const char *format = m_labelFormat.constData();
-    if (m_labelFormat.size() == 4 && format[0] == '%' && format[1] == '.' && format[2] >= '0'
-        && format[2] <= '9' && format[3] == 'f')
-        return QString::number(value, 'f', format[2] - '0');
-    if (conversionOf(m_labelFormat) == Conversion::Integer)
-        return QString::asprintf(format, labelInteger(value));
-    return QString::asprintf(format, value);
+    return LabelFormat(m_labelFormat).apply(value);
 }
 
 QVector<double> AxisTicker::createTicks(double tickStep, double min, double max) const

@@ -98,7 +98,7 @@ public:
      * \brief Sets the printf-style format of the labels made by tickLabel().
      *
      * The format is kept as UTF-8. It may hold literal text, "%%" and at most one conversion,
-     * with optional flags (-, +, space, #, 0, '), and a width and a precision of up to three
+     * with optional flags (-, +, space, #, 0, '), and a width and a precision of up to two
      * digits each:
      * - a floating-point conversion (e, E, f, F, g, G, a or A, optionally with l) shows the value;
      * - an integer conversion (d, i, u, o, x or X, optionally with l or ll), as a Qt value axis
@@ -106,7 +106,8 @@ public:
      *   within 64 bits.
      *
      * Any other format (for example "%s", "%n", "%*f", "%Lf" or two conversions) would read
-     * arguments that are not there; it is refused with a warning and the previous format is
+     * arguments that are not there, and a wider field or more digits would take far longer to
+     * format than an axis can show; it is refused with a warning and the previous format is
      * kept.
      */
     void setLabelFormat(const QString &format);

@@ -2,6 +2,7 @@
 
 #include <ko/qtToolkit/charts/AxisTicker.h>
 #include <ko/qtToolkit/charts/ChartHelpers.h>
+#include <ko/qtToolkit/charts/ChartHelpers_p.h>
 #include <ko/qtToolkit/charts/EmptyPolarAxis.h>
 #include <ko/qtToolkit/charts/GraphicsLineItem.h>
 #include <ko/qtToolkit/charts/HorizontalAxis.h>
@@ -154,7 +155,7 @@ QVector<qreal> CartesianChartAxis::calculateLayout() const
     QVector<qreal> layout;
     layout.reserve(m_majorTickValues.size());
     for (const qreal value : qAsConst(m_majorTickValues))
-        layout.append(coordToPixel(*axis(), value));
+        layout.append(tickPosition(value));
     return layout;
 }
 
@@ -251,6 +252,11 @@ void CartesianChartAxis::updateGeometry()
 {
     setLabels(m_pendingLabels);
     m_minorLabels = m_pendingMinorLabels;
+}
+
+qreal CartesianChartAxis::tickPosition(qreal value) const
+{
+    return boundedPixel(coordToPixel(*axis(), value));
 }
 
 void CartesianChartAxis::layoutTicks(const QSizeF &majorLabelLimit, const QSizeF &minorLabelLimit)

@@ -102,6 +102,10 @@ protected:
                             QGraphicsTextItem *labelItem, const QString &text, qreal value,
                             qreal maxWidth, qreal maxHeight) = 0;
 
+    /// Where the tick at axis value \a value lies along the axis, in chart coordinates; always
+    /// a finite position that whole-pixel rounding can take, however wide or degenerate the range.
+    qreal tickPosition(qreal value) const;
+
     /// Runs layoutTick() for every major tick, then for every minor tick, with the label size
     /// limits for each kind.
     void layoutTicks(const QSizeF &majorLabelLimit, const QSizeF &minorLabelLimit);

@@ -21,6 +21,11 @@ KO_QTTOOLKIT_EXPORT QtCharts::ChartAxisElement *axisElement(const QtCharts::QAbs
 /// The item that draws \a series in its chart; null while the series is in no chart.
 KO_QTTOOLKIT_EXPORT QtCharts::ChartElement *seriesElement(const QtCharts::QAbstractSeries &series);
 
+/// \a pixel within a million pixels of the origin, far off any screen, so that graphics items
+/// and whole-pixel rounding can take it. A range spanning most of the doubles maps values beyond
+/// that, a zero-width one gives NaN, which lands at the low end.
+KO_QTTOOLKIT_EXPORT double boundedPixel(double pixel);
+
 /// A zoomed logarithmic range [min, max] moved off zero. An end at zero becomes a thousandth
 /// of the other end, at most 0.001 from zero. A range across zero is made positive in the same
 /// way when its minimum is -1 or more, and negative (maximum -0.001) otherwise.

@@ -1,7 +1,5 @@
 #include <ko/qtToolkit/charts/HorizontalAxis.h>
 
-#include <ko/qtToolkit/charts/ChartHelpers.h>
-
 #include <QGraphicsLineItem>
 #include <QGraphicsTextItem>
 #include <QtCharts/private/chartpresenter_p.h>
@@ -65,7 +63,7 @@ void HorizontalAxis::layoutTick(QGraphicsLineItem *gridItem, QGraphicsLineItem *
 {
     const QRectF axisRect = axisGeometry();
     const QRectF gridRect = gridGeometry();
-    const qreal x = coordToPixel(*axis(), value);
+    const qreal x = tickPosition(value);
     gridItem->setLine(x, gridRect.top(), x, gridRect.bottom());
 
     const QRectF labelRect = setLabelText(labelItem, text, maxWidth, maxHeight);

@@ -1,7 +1,5 @@
 #include <ko/qtToolkit/charts/VerticalAxis.h>
 
-#include <ko/qtToolkit/charts/ChartHelpers.h>
-
 #include <QGraphicsLineItem>
 #include <QGraphicsTextItem>
 #include <QtCharts/private/chartpresenter_p.h>
@@ -74,7 +72,7 @@ void VerticalAxis::layoutTick(QGraphicsLineItem *gridItem, QGraphicsLineItem *ti
 {
     const QRectF axisRect = axisGeometry();
     const QRectF gridRect = gridGeometry();
-    const qreal y = coordToPixel(*axis(), value);
+    const qreal y = tickPosition(value);
     gridItem->setLine(gridRect.left(), y, gridRect.right(), y);
 
     const QRectF labelRect = setLabelText(labelItem, text, maxWidth, maxHeight);
