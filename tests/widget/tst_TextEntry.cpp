@@ -207,6 +207,8 @@ private Q_SLOTS:
         QTest::newRow("empty") << QString() << QStringLiteral("0.00");
         QTest::newRow("rounded") << QStringLiteral("1.23456") << QStringLiteral("1.23");
         QTest::newRow("comma is not read") << QStringLiteral("1,5") << QStringLiteral("0.00");
+        QTest::newRow("not a number") << QStringLiteral("nan") << QStringLiteral("0.00");
+        QTest::newRow("infinity") << QStringLiteral("-inf") << QStringLiteral("0.00");
     }
 
     void setTextRepairs()

@@ -63,14 +63,15 @@ unsigned int GenericDataFader::getNumberOfDecimals() const
 
 void GenericDataFader::setNumberOfDecimals(unsigned int decimals)
 {
-    m_numberOfDecimals = decimals;
+    m_numberOfDecimals = unsigned(common::boundedDecimals(decimals));
     updateFaderRange();
 }
 
 void GenericDataFader::updateFaderRange()
 {
     m_scale = std::pow(10.0f, static_cast<float>(m_numberOfDecimals));
-    setRange(common::truncatedToInt(m_minimumData * m_scale), common::truncatedToInt(m_maximumData * m_scale));
+    setRange(common::truncatedToSliderBound(m_minimumData * m_scale),
+             common::truncatedToSliderBound(m_maximumData * m_scale));
 }
 
 void GenericDataFader::paintEvent(QPaintEvent *event)

@@ -53,11 +53,16 @@ public:
     unsigned int getNumberOfDecimals() const;
 
     /// \brief Sets the number of decimals kept and updates the scale and the slider's range.
+    ///
+    /// At most 17 decimals are kept, the digits a double holds; more count as 17.
     void setNumberOfDecimals(unsigned int decimals);
 
     /**
      * \brief Recomputes the scale (10 to the power of the number of decimals) and sets the
      *        slider's range to the data range times the scale, truncated toward zero.
+     *
+     * The slider's bounds saturate at half the int range (±1073741823), so that a data range
+     * reaching to infinity, such as an attenuation of -inf to 0 dB, still paints.
      */
     void updateFaderRange();
 
