@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace ko::qtToolkit::widget {
@@ -25,6 +26,16 @@ void fillOutline(QPainter &painter, const QRect &rect, const QColor &color)
         painter.fillRect(rect.left(), rect.top() + 1, 1, rect.height() - 2, color);
         painter.fillRect(rect.right(), rect.top() + 1, 1, rect.height() - 2, color);
     }
+}
+
+// Level ranges are arguments: one that is not finite is refused, as the mapping onto the bar
+// would give NaN.
+bool isFiniteLevel(const char *function, float level)
+{
+    if (std::isfinite(level))
+        return true;
+    qWarning("LevelMeter::%s: ignoring a level that is not finite", function);
+    return false;
 }
 
 } // namespace
@@ -83,6 +94,8 @@ void LevelMeter::setLevel(float level)
 
 void LevelMeter::setLevelRange(float minimum, float maximum)
 {
+    if (!isFiniteLevel("setLevelRange", minimum) || !isFiniteLevel("setLevelRange", maximum))
+        return;
     if (minimum > maximum || (minimum == m_minimumLevel && maximum == m_maximumLevel))
         return;
     m_minimumLevel = minimum;
@@ -92,7 +105,7 @@ void LevelMeter::setLevelRange(float minimum, float maximum)
 
 void LevelMeter::setMinimumLevel(float minimum)
 {
-    if (minimum == m_minimumLevel)
+    if (!isFiniteLevel("setMinimumLevel", minimum) || minimum == m_minimumLevel)
         return;
     m_maximumLevel = std::max(minimum, m_maximumLevel);
     m_minimumLevel = minimum;
@@ -101,7 +114,7 @@ void LevelMeter::setMinimumLevel(float minimum)
 
 void LevelMeter::setMaximumLevel(float maximum)
 {
-    if (maximum == m_maximumLevel)
+    if (!isFiniteLevel("setMaximumLevel", maximum) || maximum == m_maximumLevel)
         return;
     m_minimumLevel = std::min(maximum, m_minimumLevel);
     m_maximumLevel = maximum;
@@ -160,6 +173,9 @@ void LevelMeter::setHighColor(const QColor &color)
 
 float LevelMeter::clampLevel(float level) const
 {
+    // A level that is not a number, a sensor's failure say, shows as silence.
+    if (std::isnan(level))
+        return m_minimumLevel;
     return std::max(std::min(level, m_maximumLevel), m_minimumLevel);
 }
 
@@ -198,11 +214,17 @@ void LevelMeter::updateGradient()
     const float high = (m_highThresholdLevel - m_minimumLevel) / range;
     // Stops one float epsilon apart make hard edges; the gradient pads below the first stop and
     // above the last, which gives three flat zones.
+    // A threshold at an end of the range puts a stop just beyond 0 or 1, which QGradient would
+    // refuse with a warning at every rebuild: such stops are left out, to the same effect.
     const float epsilon = std::numeric_limits<float>::epsilon();
-    gradient.setColorAt(medium, m_lowColor);
-    gradient.setColorAt(medium + epsilon, m_mediumColor);
-    gradient.setColorAt(high - epsilon, m_mediumColor);
-    gradient.setColorAt(high, m_highColor);
+    const auto addStop = [&gradient](float position, const QColor &color) {
+        if (position >= 0.0f && position <= 1.0f)
+            gradient.setColorAt(position, color);
+    };
+    addStop(medium, m_lowColor);
+    addStop(medium + epsilon, m_mediumColor);
+    addStop(high - epsilon, m_mediumColor);
+    addStop(high, m_highColor);
     m_gradient = QBrush(gradient);
     update();
 }

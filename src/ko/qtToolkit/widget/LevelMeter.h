@@ -61,19 +61,27 @@ public:
     /**
      * \brief Sets the level, clamped to the level range, and the progress bar's value mapped
      *        from it. The meter is repainted when the value changes.
+     *
+     * A level that is not a number (NaN) counts as the minimum level.
      */
     void setLevel(float level);
 
     /**
      * \brief Sets both ends of the level range; ignored when \a minimum is greater than
      *        \a maximum. Neither the level nor the thresholds are clamped again.
+     *
+     * An end that is not finite is refused with a warning.
      */
     void setLevelRange(float minimum, float maximum);
 
     /// \brief Sets the lower end of the level range, raising the upper end to it if needed.
+    ///
+    /// A value that is not finite is refused with a warning.
     void setMinimumLevel(float minimum);
 
     /// \brief Sets the upper end of the level range, lowering the lower end to it if needed.
+    ///
+    /// A value that is not finite is refused with a warning.
     void setMaximumLevel(float maximum);
 
     /**
@@ -100,7 +108,8 @@ public:
     /// \brief The colour above the high threshold; #c82300 by default.
     void setHighColor(const QColor &color);
 
-    /// \brief \a level limited to the level range; the minimum wins over the maximum.
+    /// \brief \a level limited to the level range; the minimum wins over the maximum, and NaN
+    ///        gives the minimum.
     float clampLevel(float level) const;
 
     /// \brief The progress bar value of \a level, truncated toward zero and not clamped.
