@@ -1,15 +1,15 @@
 #include "ChartTestSupport.h"
 
 #include <ko/qtToolkit/charts/AxisTicker.h>
-#include <ko/qtToolkit/charts/CartesianChartAxis.h>
+#include <ko/qtToolkit/charts/CartesianChartAxis_p.h>
 #include <ko/qtToolkit/charts/ChartHelpers.h>
 #include <ko/qtToolkit/charts/CustomAxisTicker.h>
-#include <ko/qtToolkit/charts/GraphicsLineItem.h>
-#include <ko/qtToolkit/charts/HorizontalAxis.h>
+#include <ko/qtToolkit/charts/GraphicsLineItem_p.h>
+#include <ko/qtToolkit/charts/HorizontalAxis_p.h>
 #include <ko/qtToolkit/charts/LinearAxis.h>
 #include <ko/qtToolkit/charts/LogarithmicAxis.h>
 #include <ko/qtToolkit/charts/LogarithmicAxisTicker.h>
-#include <ko/qtToolkit/charts/VerticalAxis.h>
+#include <ko/qtToolkit/charts/VerticalAxis_p.h>
 
 #include <TestSupport.h>
 

@@ -1,7 +1,7 @@
 #include "ChartTestSupport.h"
 
 #include <ko/qtToolkit/charts/ChartHelpers.h>
-#include <ko/qtToolkit/charts/HorizontalAxis.h>
+#include <ko/qtToolkit/charts/HorizontalAxis_p.h>
 #include <ko/qtToolkit/charts/LinearAxis.h>
 
 #include <TestSupport.h>

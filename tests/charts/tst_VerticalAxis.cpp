@@ -2,7 +2,7 @@
 
 #include <ko/qtToolkit/charts/ChartHelpers.h>
 #include <ko/qtToolkit/charts/LogarithmicAxis.h>
-#include <ko/qtToolkit/charts/VerticalAxis.h>
+#include <ko/qtToolkit/charts/VerticalAxis_p.h>
 
 #include <TestSupport.h>
 

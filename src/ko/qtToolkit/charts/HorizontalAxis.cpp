@@ -1,4 +1,4 @@
-#include <ko/qtToolkit/charts/HorizontalAxis.h>
+#include <ko/qtToolkit/charts/HorizontalAxis_p.h>
 
 #include <QGraphicsLineItem>
 #include <QGraphicsTextItem>

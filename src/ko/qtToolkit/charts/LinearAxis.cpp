@@ -1,6 +1,6 @@
 #include <ko/qtToolkit/charts/LinearAxis.h>
 
-#include <ko/qtToolkit/charts/TickedAxisPrivate.h>
+#include <ko/qtToolkit/charts/TickedAxis_p.h>
 
 #include <QtCharts/private/qvalueaxis_p.h>
 

@@ -1,4 +1,4 @@
-#include <ko/qtToolkit/charts/VerticalAxis.h>
+#include <ko/qtToolkit/charts/VerticalAxis_p.h>
 
 #include <QGraphicsLineItem>
 #include <QGraphicsTextItem>

@@ -1,8 +1,8 @@
-#ifndef KO_QTTOOLKIT_CHARTS_TICKEDAXISPRIVATE_H
-#define KO_QTTOOLKIT_CHARTS_TICKEDAXISPRIVATE_H
+#ifndef KO_QTTOOLKIT_CHARTS_TICKEDAXIS_P_H
+#define KO_QTTOOLKIT_CHARTS_TICKEDAXIS_P_H
 
 #include <ko/qtToolkit/charts/AxisTicker.h>
-#include <ko/qtToolkit/charts/CartesianChartAxis.h>
+#include <ko/qtToolkit/charts/CartesianChartAxis_p.h>
 
 #include <QBrush>
 #include <QtCharts/private/qabstractaxis_p.h>
