@@ -39,12 +39,10 @@ QVector<double> tickGrid(qint64 first, qint64 last, double step, double origin)
     return ticks;
 }
 
-// What generate() can work with: few enough candidates, strictly ascending and without NaN.
-// Infinities can only stand at the ends and are trimmed away with the range.
+// What generate() can work with: strictly ascending and without NaN. Infinities can only stand
+// at the ends and are trimmed away with the range.
 bool isUsable(const QVector<double> &ticks)
 {
-    if (ticks.size() > tickLimits::maximumTicks)
-        return false;
     if (!ticks.isEmpty() && std::isnan(ticks.first()))
         return false;
     return std::adjacent_find(ticks.cbegin(), ticks.cend(),
@@ -116,6 +114,8 @@ void AxisTicker::generate(double min, double max, QVector<double> &ticks,
     }
     const double step = computeTickStep(min, max);
     ticks = createTicks(step, min, max);
+    // The library's tickers thin their own ticks; this catches a subclass's.
+    ticks = thinnedTicks(ticks);
     if (!isUsable(ticks))
         ticks.clear();
     trimTicks(min, max, ticks, true);
@@ -189,20 +189,30 @@ QVector<double> AxisTicker::createTicks(double tickStep, double min, double max)
         return tickGrid(qint64(first) - 1, qint64(last) + 1, tickStep, m_tickOrigin);
     // Narrow ranges would make that grid large, up to astronomically so. The ticks one step
     // beyond each end are all that trimming keeps of it, so only they are created.
-    const double below = std::floor((min - m_tickOrigin) / tickStep);
-    const double above = std::ceil((max - m_tickOrigin) / tickStep);
-    if (fitIndexRange(below, above) && above - below + 3 <= tickLimits::maximumTicks)
-        return tickGrid(qint64(below) - 1, qint64(above) + 1, tickStep, m_tickOrigin);
-    return {};
+    double below = std::floor((min - m_tickOrigin) / tickStep);
+    double above = std::ceil((max - m_tickOrigin) / tickStep);
+    if (!fitIndexRange(below, above))
+        return {};
+    // More ticks than an axis can show: every stride-th tick of the grid is kept, on multiples of
+    // the stride so that the kept ticks stay put while the range pans.
+    const double stride = thinningStride(above - below + 3);
+    if (stride > 1.0) {
+        below = std::floor(below / stride);
+        above = std::ceil(above / stride);
+        tickStep *= stride;
+    }
+    return tickGrid(qint64(below) - 1, qint64(above) + 1, tickStep, m_tickOrigin);
 }
 
 QVector<double> AxisTicker::createSubTicks(int subTickCount, const QVector<double> &ticks) const
 {
     if (subTickCount < 1 || ticks.size() < 2)
         return {};
-    const qint64 total = qint64(ticks.size() - 1) * subTickCount;
-    if (total > tickLimits::maximumSubTicks)
+    // More sub-ticks than an axis can show: fewer between each pair of ticks, evenly spaced still.
+    subTickCount = int(std::min<qint64>(subTickCount, tickLimits::maximumSubTicks / (ticks.size() - 1)));
+    if (subTickCount < 1)
         return {};
+    const qint64 total = qint64(ticks.size() - 1) * subTickCount;
     QVector<double> subTicks(static_cast<int>(total));
     double *const out = subTicks.data();
     int count = 0;

@@ -29,12 +29,15 @@ namespace ko::qtToolkit::charts {
  * - min > max, or either bound is NaN or infinite;
  * - the tick step is not a positive finite number (a zero-width range for this ticker; the
  *   tickers with their own createTicks() still give the ticks that lie on a zero-width range);
- * - the ticks would be more than 500 (a tick count of a few hundred), or the integer tick
- *   indices would leave the 64-bit range, or the distance between a bound and the tick origin
- *   overflows;
+ * - the integer tick indices would leave the 64-bit range, or the distance between a bound
+ *   and the tick origin overflows;
  * - neighbouring ticks would not be distinct doubles (a step below the resolution of doubles at
  *   the range).
- * createSubTicks() creates no more than 5000 sub-ticks, and none that rounding would put on or
+ * An axis cannot show more than 500 ticks and 5000 sub-ticks, so a setting that asks for more (a tick
+ * count of a few hundred, a custom ticker with thousands of ticks) is thinned to fit instead:
+ * every n-th tick is kept, the smallest n that fits, chosen on the whole series of ticks so that
+ * the kept ones stay put while the range pans; and fewer sub-ticks, still evenly spaced, are
+ * placed between each pair of ticks. createSubTicks() creates none that rounding would put on or
  * beyond one of its two ticks. Wherever none of these limits is reached the results are exactly
  * those described for each step.
  *
@@ -164,9 +167,10 @@ public:
      * and ceil act on the distances and not on the quotients, steps below 1 give more ticks than
      * needed. When that grid would hold more than 64 ticks, or its indices would leave the 64-bit
      * range, only the ticks from one step below \a min to one step above \a max are created,
-     * which gives the same result after trimming; when even those would be more than 500, the
-     * result is empty. A step that is not a positive finite number, min > max and a non-finite
-     * distance between a bound and the origin give an empty result too.
+     * which gives the same result after trimming; when even those would be more than 500, only
+     * every n-th of them is created, j a multiple of n, for the smallest n that fits. A step that
+     * is not a positive finite number, min > max and a non-finite distance between a bound and the
+     * origin give an empty result.
      */
     virtual QVector<double> createTicks(double tickStep, double min, double max) const;
 
@@ -174,8 +178,9 @@ public:
      * \brief The sub-ticks between the neighbouring entries of \a ticks.
      *
      * For each pair (a, b) of neighbours, the values a + k × (b - a) / (\a subTickCount + 1) for
-     * k = 1 .. \a subTickCount, ascending. Empty when \a subTickCount is below 1, when \a ticks
-     * has fewer than two entries or when the result would exceed 5000 sub-ticks. A value that
+     * k = 1 .. \a subTickCount, ascending. Empty when \a subTickCount is below 1 or when \a ticks
+     * has fewer than two entries. Where the result would exceed 5000 sub-ticks, as many per pair
+     * are placed as fit, \a subTickCount being the most. A value that
      * rounding puts on or beyond a or b, or onto the sub-tick before it, is left out.
      */
     virtual QVector<double> createSubTicks(int subTickCount, const QVector<double> &ticks) const;

@@ -70,7 +70,13 @@ QVector<double> LogarithmicAxisTicker::createTicks(double, double min, double ma
     const double exponentStep =
         std::trunc(cleanMantissa(decades / (tickCount() + 1e-10), tickStepStrategy()));
     // The comparison also turns NaN (from a base of 1 or below) into a step of 1.
-    const double factor = std::pow(m_base, exponentStep >= 2.0 ? exponentStep : 1.0);
+    double powerStep = exponentStep >= 2.0 ? exponentStep : 1.0;
+    // More powers than an axis can show: every stride-th is kept, the powers of a larger factor,
+    // so that the kept ones stay put while the range pans.
+    const double powers = logRatio / (powerStep * std::log(m_base)) + 3.0;
+    if (powers > tickLimits::maximumTicks)
+        powerStep *= thinningStride(powers);
+    const double factor = std::pow(m_base, powerStep);
     if (!(factor > 1.0) || std::isinf(factor))
         return {};
     const double logFactor = std::log(factor);

@@ -72,7 +72,8 @@ public:
      * to the first one not below \a max; for a range below zero, the negated powers from the one
      * at or below \a min to the first one at or above \a max. Empty, with the warning, for a
      * range touching or crossing zero; empty, silently, when base^n is not a finite number
-     * greater than 1 or the ticks would be more than 500.
+     * greater than 1. When the ticks would be more than 500, n is multiplied by the smallest
+     * factor that makes them fit.
      */
     QVector<double> createTicks(double tickStep, double min, double max) const override;
 
