@@ -273,6 +273,26 @@ private Q_SLOTS:
         QCOMPARE(fixedWidth ? fixture.next->height() : fixture.next->width(), 300);
     }
 
+    // The usual order: the application applies the sheet at start-up, before any list exists.
+    void styleSheetAppliedBeforeConstructionSizesButtons_data() { styleSheetSizesButtons_data(); }
+
+    void styleSheetAppliedBeforeConstructionSizesButtons()
+    {
+        QFETCH(Direction, direction);
+        QFETCH(bool, fixedWidth);
+        qApp->setStyleSheet(ko::qtToolkit::test::toolkitStyleSheet());
+        {
+            Fixture fixture(direction);
+            fixture.widget.resize(300, 300);
+            QTRY_COMPARE(fixedWidth ? fixture.next->width() : fixture.next->height(), 26);
+            QCOMPARE(fixedWidth ? fixture.previous->width() : fixture.previous->height(), 26);
+            // The arrow is drawn: the button is not blank.
+            const QImage image = fixture.next->grab().toImage();
+            QVERIFY(image.pixelColor(image.width() / 2, image.height() / 2) != image.pixelColor(0, 0));
+        }
+        qApp->setStyleSheet(QString());
+    }
+
     void destroyingWithRowsCleansUp()
     {
         auto widget = std::make_unique<WidgetBase>(QStringLiteral("Items"), Direction::Vertical);
