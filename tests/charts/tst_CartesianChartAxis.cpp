@@ -362,6 +362,25 @@ private Q_SLOTS:
         QCOMPARE(element->allLabels(), element->labels() + element->minorLabels());
     }
 
+    // Minor labels set by hand stand until the next layout pass takes the ticker's again, as the
+    // major labels do with setLabels().
+    void setMinorLabelsHoldsUntilTheNextLayout()
+    {
+        TestChart chart;
+        auto *axis = chart.addAxis(new LinearAxis, Qt::AlignBottom);
+        axis->setRange(0.0, 100.0);
+        chart.layout();
+        auto *element = TestChart::element<CartesianChartAxis>(*axis);
+        const QStringList fromTicker = element->minorLabels();
+        const QStringList byHand{"a", "b", "c", "d", "e", "f", "g"};
+        element->setMinorLabels(byHand);
+        QCOMPARE(element->minorLabels(), byHand);
+        element->setMinorLabels({});
+        QCOMPARE(element->minorLabels(), QStringList());
+        relayout(element);
+        QCOMPARE(element->minorLabels(), fromTicker);
+    }
+
     void allLabelsLeavesLayoutAlone()
     {
         TestChart chart;
