@@ -28,13 +28,25 @@ inline void useFixedFont(int pixelSize = 12)
     QApplication::setFont(fixedFont(pixelSize));
 }
 
-/// The library's style sheet as the bundle holds it; empty when it cannot be read.
-inline QString toolkitStyleSheet()
+/// The style sheet at the resource \a path as text; empty when it cannot be read.
+inline QString styleSheetAt(const QString &path)
 {
-    QFile file(QStringLiteral(":/qtToolkit.qss"));
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return {};
     return QString::fromUtf8(file.readAll());
+}
+
+/// The library's style sheet as the bundle holds it; empty when it cannot be read.
+inline QString toolkitStyleSheet()
+{
+    return styleSheetAt(QStringLiteral(":/qtToolkit.qss"));
+}
+
+/// The library's dark style sheet; empty when it cannot be read.
+inline QString darkToolkitStyleSheet()
+{
+    return styleSheetAt(QStringLiteral(":/ko/qtToolkit-dark.qss"));
 }
 
 /// Where tests keep rendered images for a person to look at.
