@@ -6,8 +6,7 @@
 #include <ko/qtToolkit/charts/EmptyPolarAxis_p.h>
 #include <ko/qtToolkit/charts/GraphicsLineItem_p.h>
 #include <ko/qtToolkit/charts/HorizontalAxis_p.h>
-#include <ko/qtToolkit/charts/LinearAxis.h>
-#include <ko/qtToolkit/charts/LogarithmicAxis.h>
+#include <ko/qtToolkit/charts/TickedAxis_p.h>
 #include <ko/qtToolkit/charts/VerticalAxis_p.h>
 
 #include <QGraphicsItemGroup>
@@ -545,33 +544,17 @@ void CartesianChartAxis::dropStaleLabelTexts() const
 void CartesianChartAxis::updateTicks(QVector<qreal> &ticks, QVector<qreal> &subTicks, QStringList &labels,
                                      QStringList &subLabels) const
 {
-    AxisTicker *ticker = nullptr;
-    qreal min = 0.0;
-    qreal max = 0.0;
-    QString format;
-    if (axis()->type() == QtCharts::QAbstractAxis::AxisTypeValue) {
-        if (auto *linear = qobject_cast<LinearAxis *>(axis())) {
-            ticker = linear->ticker();
-            min = linear->min();
-            max = linear->max();
-            format = linear->labelFormat();
-        }
-    } else if (axis()->type() == QtCharts::QAbstractAxis::AxisTypeLogValue) {
-        if (auto *logarithmic = qobject_cast<LogarithmicAxis *>(axis())) {
-            ticker = logarithmic->ticker();
-            min = logarithmic->min();
-            max = logarithmic->max();
-            format = logarithmic->labelFormat();
-        }
-    }
-    if (!ticker) {
+    const TickedAxisState *state = tickedAxisState(*axis());
+    if (!state) {
         ticks.clear();
         subTicks.clear();
         return;
     }
+    AxisTicker *ticker = state->currentTicker;
+    const QString format = state->labelFormat();
     if (!format.isEmpty())
         ticker->setLabelFormat(format);
-    ticker->generate(min, max, ticks, subTicks);
+    ticker->generate(state->minimum(), state->maximum(), ticks, subTicks);
     ticker->generateLabels(ticks, labels);
     ticker->generateLabels(subTicks, subLabels);
 }
@@ -633,26 +616,14 @@ void CartesianChartAxis::deleteMinorItems(int count)
 
 QColor CartesianChartAxis::minorLabelsColor() const
 {
-    if (axis()->type() == QtCharts::QAbstractAxis::AxisTypeValue) {
-        if (const auto *linear = qobject_cast<const LinearAxis *>(axis()))
-            return linear->minorLabelsColor();
-    } else if (axis()->type() == QtCharts::QAbstractAxis::AxisTypeLogValue) {
-        if (const auto *logarithmic = qobject_cast<const LogarithmicAxis *>(axis()))
-            return logarithmic->minorLabelsColor();
-    }
-    return axis()->labelsColor();
+    const TickedAxisState *state = tickedAxisState(*axis());
+    return state ? state->minorLabelsBrush.color() : axis()->labelsColor();
 }
 
 bool CartesianChartAxis::minorLabelsVisible() const
 {
-    if (axis()->type() == QtCharts::QAbstractAxis::AxisTypeValue) {
-        if (const auto *linear = qobject_cast<const LinearAxis *>(axis()))
-            return linear->minorLabelsVisible();
-    } else if (axis()->type() == QtCharts::QAbstractAxis::AxisTypeLogValue) {
-        if (const auto *logarithmic = qobject_cast<const LogarithmicAxis *>(axis()))
-            return logarithmic->minorLabelsVisible();
-    }
-    return false;
+    const TickedAxisState *state = tickedAxisState(*axis());
+    return state && state->minorLabelsVisible;
 }
 
 QtCharts::ChartAxisElement *createAxisElement(QtCharts::QAbstractAxis *axis, QtCharts::QChart::ChartType chartType,

@@ -92,9 +92,14 @@ constexpr double outOfDomainDistance = 200.0;
 
 } // namespace
 
+QtCharts::QAbstractAxisPrivate *axisPrivate(const QtCharts::QAbstractAxis &axis)
+{
+    return AxisAccess::privateOf(axis);
+}
+
 QtCharts::ChartAxisElement *axisElement(const QtCharts::QAbstractAxis &axis)
 {
-    return AxisAccess::privateOf(axis)->axisItem();
+    return axisPrivate(axis)->axisItem();
 }
 
 QtCharts::ChartElement *seriesElement(const QtCharts::QAbstractSeries &series)

@@ -8,12 +8,16 @@
 
 QT_CHARTS_BEGIN_NAMESPACE
 class ChartAxisElement;
+class QAbstractAxisPrivate;
 class ChartElement;
 class QAbstractAxis;
 class QAbstractSeries;
 QT_CHARTS_END_NAMESPACE
 
 namespace ko::qtToolkit::charts {
+
+/// Qt Charts' private part of \a axis.
+KO_QTTOOLKIT_EXPORT QtCharts::QAbstractAxisPrivate *axisPrivate(const QtCharts::QAbstractAxis &axis);
 
 /// The element that draws \a axis in its chart; null while the axis is in no chart.
 KO_QTTOOLKIT_EXPORT QtCharts::ChartAxisElement *axisElement(const QtCharts::QAbstractAxis &axis);

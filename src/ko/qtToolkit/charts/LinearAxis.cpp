@@ -6,7 +6,7 @@
 
 namespace ko::qtToolkit::charts {
 
-class LinearAxisPrivate : public TickedAxisPrivate<QtCharts::QValueAxisPrivate>
+class LinearAxisPrivate : public TickedAxisPrivate<QtCharts::QValueAxisPrivate, QtCharts::QValueAxis>
 {
 public:
     using TickedAxisPrivate::TickedAxisPrivate;

@@ -6,7 +6,7 @@
 
 namespace ko::qtToolkit::charts {
 
-class LogarithmicAxisPrivate : public TickedAxisPrivate<QtCharts::QLogValueAxisPrivate>
+class LogarithmicAxisPrivate : public TickedAxisPrivate<QtCharts::QLogValueAxisPrivate, QtCharts::QLogValueAxis>
 {
 public:
     using TickedAxisPrivate::TickedAxisPrivate;

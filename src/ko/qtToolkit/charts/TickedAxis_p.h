@@ -11,21 +11,17 @@
 namespace ko::qtToolkit::charts {
 
 /**
- * \brief What LinearAxisPrivate and LogarithmicAxisPrivate add to Qt Charts' private part
- *        \a QtAxisPrivate of their base class: the ticker, the minor labels' settings, and the
- *        library's own drawing element in place of Qt's.
+ * \brief What the library's own axes keep beside Qt Charts' state: the ticker and the minor
+ *        labels' settings, with the range and label format the ticker works on.
  */
-template<typename QtAxisPrivate>
-class TickedAxisPrivate : public QtAxisPrivate
+class KO_QTTOOLKIT_EXPORT TickedAxisState
 {
 public:
-    using QtAxisPrivate::QtAxisPrivate;
+    virtual ~TickedAxisState();
 
-    void initializeGraphics(QGraphicsItem *parent) override
-    {
-        this->m_item.reset(createAxisElement(this->q_ptr, this->m_chart->chartType(), parent));
-        QtCharts::QAbstractAxisPrivate::initializeGraphics(parent);
-    }
+    virtual double minimum() const = 0;
+    virtual double maximum() const = 0;
+    virtual QString labelFormat() const = 0;
 
     void setTicker(AxisTicker *ticker) { currentTicker = ticker ? ticker : &defaultTicker; }
 
@@ -52,6 +48,35 @@ public:
     bool minorLabelsVisible = true;
     QBrush minorLabelsBrush = QtCharts::QChartPrivate::defaultBrush();
 };
+
+/**
+ * \brief The private part of LinearAxis and LogarithmicAxis: Qt Charts' private part
+ *        \a QtAxisPrivate of their base class \a QtAxis, the TickedAxisState, and the library's
+ *        own drawing element in place of Qt's.
+ */
+template<typename QtAxisPrivate, typename QtAxis>
+class TickedAxisPrivate : public QtAxisPrivate, public TickedAxisState
+{
+public:
+    using QtAxisPrivate::QtAxisPrivate;
+
+    void initializeGraphics(QGraphicsItem *parent) override
+    {
+        this->m_item.reset(createAxisElement(this->q_ptr, this->m_chart->chartType(), parent));
+        QtCharts::QAbstractAxisPrivate::initializeGraphics(parent);
+    }
+
+    double minimum() const override { return axis()->min(); }
+    double maximum() const override { return axis()->max(); }
+    QString labelFormat() const override { return axis()->labelFormat(); }
+
+private:
+    const QtAxis *axis() const { return static_cast<const QtAxis *>(this->q_ptr); }
+};
+
+/// The ticker and minor-label state of \a axis when it is one of the library's own axes (a
+/// LinearAxis or a LogarithmicAxis, FrequencyAxis included); null for any other axis.
+KO_QTTOOLKIT_EXPORT TickedAxisState *tickedAxisState(const QtCharts::QAbstractAxis &axis);
 
 } // namespace ko::qtToolkit::charts
 
