@@ -381,6 +381,33 @@ private Q_SLOTS:
         QCOMPARE(element->minorLabels(), fromTicker);
     }
 
+    // A ticker asked for more ticks than an axis can show thins them: the axis stays readable.
+    void tickCountPastTheCapStillShowsTicks_data()
+    {
+        QTest::addColumn<int>("tickCount");
+        QTest::newRow("at the cap") << 497;
+        QTest::newRow("just above the cap") << 501;
+        QTest::newRow("far above the cap") << 100000;
+    }
+
+    void tickCountPastTheCapStillShowsTicks()
+    {
+        QFETCH(int, tickCount);
+        AxisTicker ticker;
+        ticker.setTickCount(tickCount);
+        TestChart chart;
+        auto *axis = chart.addAxis(new LinearAxis, Qt::AlignBottom);
+        axis->setTicker(&ticker);
+        axis->setRange(0.0, 497.0);
+        chart.layout();
+        auto *element = TestChart::element<CartesianChartAxis>(*axis);
+        QVERIFY(element->majorTickValues().size() > 100);
+        QVERIFY(element->majorTickValues().size() <= 500);
+        QCOMPARE(element->labels().size(), element->majorTickValues().size());
+        QCOMPARE(itemsOf(element->gridGroup()).size(), element->majorTickValues().size());
+        QCOMPARE(element->labels().constFirst(), QStringLiteral("0.00"));
+    }
+
     void allLabelsLeavesLayoutAlone()
     {
         TestChart chart;
