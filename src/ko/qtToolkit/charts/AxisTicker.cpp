@@ -11,6 +11,15 @@
 
 namespace ko::qtToolkit::charts {
 
+class AxisTickerPrivate
+{
+public:
+    int tickCount = 3;
+    double tickOrigin = 0.0;
+    AxisTicker::TickStepStrategy tickStepStrategy = AxisTicker::FineSteps;
+    QByteArray labelFormat{"%.2f"};
+};
+
 namespace {
 
 constexpr double ln10 = 2.302585092994046;
@@ -52,11 +61,27 @@ bool isUsable(const QVector<double> &ticks)
 
 } // namespace
 
+AxisTicker::AxisTicker()
+    : d(std::make_unique<AxisTickerPrivate>())
+{
+}
+
+AxisTicker::AxisTicker(const AxisTicker &other)
+    : d(std::make_unique<AxisTickerPrivate>(*other.d))
+{
+}
+
+AxisTicker &AxisTicker::operator=(const AxisTicker &other)
+{
+    *d = *other.d;
+    return *this;
+}
+
 AxisTicker::~AxisTicker() = default;
 
 int AxisTicker::tickCount() const
 {
-    return m_tickCount;
+    return d->tickCount;
 }
 
 void AxisTicker::setTickCount(int count)
@@ -65,34 +90,34 @@ void AxisTicker::setTickCount(int count)
         qWarning("tick count must be greater than zero");
         return;
     }
-    m_tickCount = count;
+    d->tickCount = count;
 }
 
 double AxisTicker::tickOrigin() const
 {
-    return m_tickOrigin;
+    return d->tickOrigin;
 }
 
 void AxisTicker::setTickOrigin(double origin)
 {
-    m_tickOrigin = origin;
+    d->tickOrigin = origin;
 }
 
 AxisTicker::TickStepStrategy AxisTicker::tickStepStrategy() const
 {
-    return m_tickStepStrategy;
+    return d->tickStepStrategy;
 }
 
 void AxisTicker::setTickStepStrategy(TickStepStrategy strategy)
 {
-    m_tickStepStrategy = strategy;
+    d->tickStepStrategy = strategy;
 }
 
 void AxisTicker::setLabelFormat(const QString &format)
 {
     // The axis element hands its format over at every layout.
     const QByteArray bytes = format.toUtf8();
-    if (bytes == m_labelFormat)
+    if (bytes == d->labelFormat)
         return;
     const LabelFormat checked(bytes);
     if (!checked.isValid()) {
@@ -101,7 +126,7 @@ void AxisTicker::setLabelFormat(const QString &format)
                  bytes.constData());
         return;
     }
-    m_labelFormat = checked.format();
+    d->labelFormat = checked.format();
 }
 
 void AxisTicker::generate(double min, double max, QVector<double> &ticks,
@@ -145,11 +170,11 @@ void AxisTicker::generateLabels(const QVector<double> &ticks, QStringList &label
 
 double AxisTicker::computeTickStep(double min, double max) const
 {
-    const double divisor = m_tickCount + 1e-10;
+    const double divisor = d->tickCount + 1e-10;
     double rawStep = (max - min) / divisor;
     if (std::isinf(rawStep) && std::isfinite(min) && std::isfinite(max))
         rawStep = max / divisor - min / divisor;
-    return cleanMantissa(rawStep, m_tickStepStrategy);
+    return cleanMantissa(rawStep, d->tickStepStrategy);
 }
 
 int AxisTicker::computeSubTickCount(double tickStep) const
@@ -174,7 +199,7 @@ int AxisTicker::computeSubTickCount(double tickStep) const
 
 QString AxisTicker::tickLabel(double value) const
 {
-    return LabelFormat(m_labelFormat).apply(value);
+    return LabelFormat(d->labelFormat).apply(value);
 }
 
 QVector<double> AxisTicker::createTicks(double tickStep, double min, double max) const
@@ -183,14 +208,14 @@ QVector<double> AxisTicker::createTicks(double tickStep, double min, double max)
         return {};
     // floor and ceil act on the distances, not on the quotients: below a step of 1 this grid
     // reaches further out than needed and generate() trims it.
-    const double first = std::trunc(std::floor(min - m_tickOrigin) / tickStep);
-    const double last = std::trunc(std::ceil(max - m_tickOrigin) / tickStep);
+    const double first = std::trunc(std::floor(min - d->tickOrigin) / tickStep);
+    const double last = std::trunc(std::ceil(max - d->tickOrigin) / tickStep);
     if (fitIndexRange(first, last) && last - first + 3 <= largestFlooredGrid)
-        return tickGrid(qint64(first) - 1, qint64(last) + 1, tickStep, m_tickOrigin);
+        return tickGrid(qint64(first) - 1, qint64(last) + 1, tickStep, d->tickOrigin);
     // Narrow ranges would make that grid large, up to astronomically so. The ticks one step
     // beyond each end are all that trimming keeps of it, so only they are created.
-    double below = std::floor((min - m_tickOrigin) / tickStep);
-    double above = std::ceil((max - m_tickOrigin) / tickStep);
+    double below = std::floor((min - d->tickOrigin) / tickStep);
+    double above = std::ceil((max - d->tickOrigin) / tickStep);
     if (!fitIndexRange(below, above))
         return {};
     // More ticks than an axis can show: every stride-th tick of the grid is kept, on multiples of
@@ -201,7 +226,7 @@ QVector<double> AxisTicker::createTicks(double tickStep, double min, double max)
         above = std::ceil(above / stride);
         tickStep *= stride;
     }
-    return tickGrid(qint64(below) - 1, qint64(above) + 1, tickStep, m_tickOrigin);
+    return tickGrid(qint64(below) - 1, qint64(above) + 1, tickStep, d->tickOrigin);
 }
 
 QVector<double> AxisTicker::createSubTicks(int subTickCount, const QVector<double> &ticks) const

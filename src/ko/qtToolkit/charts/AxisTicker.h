@@ -8,7 +8,11 @@
 #include <QStringList>
 #include <QVector>
 
+#include <memory>
+
 namespace ko::qtToolkit::charts {
+
+class AxisTickerPrivate;
 
 /**
  * \brief Computes the major ticks, the minor ticks (sub-ticks) and their labels for a value
@@ -63,7 +67,11 @@ public:
      * \brief Creates a ticker with tick count 3, tick origin 0, FineSteps and label format
      *        "%.2f".
      */
-    AxisTicker() = default;
+    AxisTicker();
+    /// \brief Creates a ticker with the settings of \a other.
+    AxisTicker(const AxisTicker &other);
+    /// \brief Takes over the settings of \a other.
+    AxisTicker &operator=(const AxisTicker &other);
     virtual ~AxisTicker();
 
     /**
@@ -225,10 +233,7 @@ public:
     static double pickClosest(double target, const QVector<double> &candidates);
 
 private:
-    int m_tickCount = 3;
-    double m_tickOrigin = 0.0;
-    TickStepStrategy m_tickStepStrategy = FineSteps;
-    QByteArray m_labelFormat{"%.2f"};
+    std::unique_ptr<AxisTickerPrivate> const d;
 };
 
 } // namespace ko::qtToolkit::charts

@@ -3,7 +3,11 @@
 
 #include <ko/qtToolkit/charts/AxisTicker.h>
 
+#include <memory>
+
 namespace ko::qtToolkit::charts {
+
+class LogarithmicAxisTickerPrivate;
 
 /**
  * \brief A ticker that places the major ticks at integer powers of a base, or of a power of the
@@ -28,7 +32,11 @@ public:
     /**
      * \brief Creates a ticker for base 10 with 8 sub-ticks between two major ticks.
      */
-    LogarithmicAxisTicker() = default;
+    LogarithmicAxisTicker();
+    /// \brief Creates a ticker with the settings of \a other.
+    LogarithmicAxisTicker(const LogarithmicAxisTicker &other);
+    /// \brief Takes over the settings of \a other.
+    LogarithmicAxisTicker &operator=(const LogarithmicAxisTicker &other);
     ~LogarithmicAxisTicker() override;
 
     /**
@@ -78,9 +86,7 @@ public:
     QVector<double> createTicks(double tickStep, double min, double max) const override;
 
 private:
-    double m_base = 10.0;
-    double m_logBaseFactor = 0.43429448190325176; // 1 / ln(m_base)
-    int m_subTickCount = 8;
+    std::unique_ptr<LogarithmicAxisTickerPrivate> const d;
 };
 
 } // namespace ko::qtToolkit::charts

@@ -7,6 +7,18 @@
 
 namespace ko::qtToolkit::common {
 
+DoubleValidator::DoubleValidator(QObject *parent)
+    : QDoubleValidator(parent)
+{
+}
+
+DoubleValidator::DoubleValidator(double bottom, double top, int decimals, QObject *parent)
+    : QDoubleValidator(bottom, top, decimals, parent)
+{
+}
+
+DoubleValidator::~DoubleValidator() = default;
+
 QValidator::State DoubleValidator::validate(QString &input, int &) const
 {
     if (input.isEmpty())

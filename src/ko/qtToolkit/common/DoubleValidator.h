@@ -21,11 +21,19 @@ class KO_QTTOOLKIT_EXPORT DoubleValidator : public QDoubleValidator
 
 public:
     /**
-     * \brief The constructors of QDoubleValidator: (parent) and (bottom, top, decimals, parent).
-     *
-     * The parent, when given, owns the validator.
+     * \brief A validator with QDoubleValidator's defaults: any value, 1000 decimals.
+     * \param parent the owner of the validator, or null
      */
-    using QDoubleValidator::QDoubleValidator;
+    explicit DoubleValidator(QObject *parent = nullptr);
+
+    /**
+     * \brief A validator for the range [\a bottom, \a top] with at most \a decimals digits
+     *        after the decimal point, as QDoubleValidator's.
+     * \param parent the owner of the validator, or null
+     */
+    DoubleValidator(double bottom, double top, int decimals, QObject *parent = nullptr);
+
+    ~DoubleValidator() override;
 
     /**
      * \brief Checks \a input; \a pos is neither read nor changed.

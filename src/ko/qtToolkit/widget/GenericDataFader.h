@@ -4,7 +4,11 @@
 #include <ko/qtToolkit/qtToolkit_export.h>
 #include <ko/qtToolkit/widget/Fader.h>
 
+#include <memory>
+
 namespace ko::qtToolkit::widget {
+
+class GenericDataFaderPrivate;
 
 /**
  * \brief A Fader over a floating-point range with a fixed number of decimals.
@@ -33,6 +37,7 @@ public:
      * \param parent the parent widget, which owns the fader; may be null.
      */
     explicit GenericDataFader(Qt::Orientation orientation, QWidget *parent = nullptr);
+    ~GenericDataFader() override;
 
     /// \brief The slider's value divided by the scale.
     float getData() const;
@@ -82,10 +87,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    float m_minimumData = 0.0f;
-    float m_maximumData = 10.0f;
-    unsigned int m_numberOfDecimals = 1;
-    float m_scale = 10.0f;
+    std::unique_ptr<GenericDataFaderPrivate> const d;
 };
 
 } // namespace ko::qtToolkit::widget

@@ -7,7 +7,11 @@
 #include <QColor>
 #include <QProgressBar>
 
+#include <memory>
+
 namespace ko::qtToolkit::widget {
+
+class LevelMeterPrivate;
 
 /**
  * \brief A bar meter for audio levels with three colour zones.
@@ -44,6 +48,7 @@ public:
      * \param parent the parent widget, which owns the meter; may be null.
      */
     explicit LevelMeter(QWidget *parent = nullptr);
+    ~LevelMeter() override;
 
     /// \brief The level, clamped to the level range when it was set.
     float level() const;
@@ -138,20 +143,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    // The gradient is kept as a brush so that painting allocates nothing.
-    QBrush m_gradient;
-    QColor m_backgroundColor{0xbbbbbb};
-    QColor m_lowColor{0x008000};
-    QColor m_mediumColor{0xfa6500};
-    QColor m_highColor{0xc82300};
-    QColor m_frameColor{0x575757};
-    QColor m_mutedFrameColor{0xff0000};
-    float m_level = -60.0f;
-    float m_minimumLevel = -60.0f;
-    float m_maximumLevel = 15.0f;
-    float m_mediumThresholdLevel = -20.0f;
-    float m_highThresholdLevel = 10.0f;
-    bool m_muted = false;
+    std::unique_ptr<LevelMeterPrivate> const d;
 };
 
 } // namespace ko::qtToolkit::widget
