@@ -249,6 +249,15 @@ private Q_SLOTS:
         QTest::newRow("minus on seven digits gives six significant digits")
             << QString() << true << keys("1 2 3 4 5 6 7 -")
             << keys("1 12 123 1234 12345 123456 1234567 -1.23457e+06");
+        // Forty nines are beyond the float range: minus is put in front of the text.
+        QTest::newRow("minus on a number beyond the float range")
+            << QString(39, QLatin1Char('9')) << true << QStringList{QStringLiteral("OK"), QStringLiteral("9"), QStringLiteral("-")}
+            << QStringList{QString(39, QLatin1Char('9')), QString(40, QLatin1Char('9')),
+                           QLatin1Char('-') + QString(40, QLatin1Char('9'))};
+        QTest::newRow("minus on a negative number beyond the float range")
+            << QString(39, QLatin1Char('9')) << true << QStringList{QStringLiteral("OK"), QStringLiteral("-"), QStringLiteral("9"), QStringLiteral("-")}
+            << QStringList{QString(39, QLatin1Char('9')), QLatin1Char('-') + QString(39, QLatin1Char('9')),
+                           QLatin1Char('-') + QString(40, QLatin1Char('9')), QLatin1Char('-') + QString(40, QLatin1Char('9'))};
         QTest::newRow("K on 12") << QString() << true << keys("1 2 K") << keys("1 12 12000");
         QTest::newRow("K on 0 does nothing") << QString() << true << keys("0 K") << keys("0 0");
         QTest::newRow("K as first key empties the display") << QStringLiteral("12") << true << keys("K") << QStringList{QString()};

@@ -13,6 +13,8 @@
 #include <QPointer>
 #include <QSignalBlocker>
 
+#include <limits>
+
 namespace ko::qtToolkit::widget {
 
 namespace {
@@ -181,7 +183,9 @@ void KeypadPrivate::keyPressed(int pressed)
         text += QLatin1Char('.');
         break;
     case Qt::Key_Minus:
-        if (value == 0.0f)
+        // A number beyond the float range reads as infinity: it is negated as text, not shown as
+        // "-inf".
+        if (value == 0.0f || value == std::numeric_limits<float>::infinity())
             text.prepend(QLatin1Char('-'));
         else if (value > 0.0f)
             text = QString::number(-value, 'g', 6);
