@@ -38,6 +38,19 @@ namespace ko::qtToolkit::fuzz {
     do { if (!(condition)) ::ko::qtToolkit::fuzz::fail(__FILE__, __LINE__, #condition, (detail)); } while (false)
 // clang-format on
 
+/// Whether the operations of an input are to be listed on stderr (KO_FUZZ_TRACE set), to turn a
+/// crashing input into a reproducer in code.
+inline bool tracing()
+{
+    static const bool on = qEnvironmentVariableIsSet("KO_FUZZ_TRACE");
+    return on;
+}
+
+// clang-format off
+#define KO_FUZZ_TRACE(...) \
+    do { if (::ko::qtToolkit::fuzz::tracing()) std::fprintf(stderr, __VA_ARGS__); } while (false)
+// clang-format on
+
 /// Warnings a target expects: the library reports bad arguments this way. Any other warning or
 /// critical message (from Qt, about something the library handed it) fails the input.
 inline QStringList &expectedWarnings()

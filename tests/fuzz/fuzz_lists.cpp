@@ -61,6 +61,8 @@ public:
         wrapped.resize(120, 120);
         if (data.ConsumeBool())
             wrapped.show();
+        KO_FUZZ_TRACE("list0: a ListWidget; list1: a %s WidgetBase's list, shown %d\n",
+                      direction == Direction::Horizontal ? "horizontal" : "vertical", wrapped.isVisible());
         for (NavigatorButton *button : wrapped.findChildren<NavigatorButton *>()) {
             if (dynamic_cast<NavigatorButtonNext *>(button))
                 next = button;
@@ -98,12 +100,18 @@ private:
             auto *button = new QPushButton(QStringLiteral("b%1").arg(pool.size()));
             button->setCheckable(data.ConsumeIntegralInRange<int>(0, 5) != 0);
             button->setChecked(button->isCheckable() && data.ConsumeIntegralInRange<int>(0, 5) == 0);
+            KO_FUZZ_TRACE("new %s, checkable %d, checked %d\n", qPrintable(name(button)), button->isCheckable(), button->isChecked());
             button->setMinimumHeight(40);
             button->setMinimumWidth(40);
             pool.emplace_back(button);
             return button;
         }
         return pool[data.ConsumeIntegralInRange<std::size_t>(0, pool.size() - 1)];
+    }
+
+    int index(const ListWidget &list) const
+    {
+        return &list == lists[0] ? 0 : 1;
     }
 
     ListWidget *listOf(const QAbstractButton *button) const
@@ -119,6 +127,7 @@ private:
     {
         const int before = list.count();
         ListWidget *owner = button ? listOf(button) : nullptr;
+        KO_FUZZ_TRACE("list%d.%s(%s)\n", index(list), insert ? "insertItem" : "addItem", qPrintable(name(button)));
         if (insert)
             list.insertItem(data.ConsumeIntegralInRange<int>(-2, before + 1), button);
         else
@@ -148,6 +157,7 @@ private:
             const bool inList = button && list.row(button) >= 0;
             const int before = list.count();
             QPointer<QPushButton> watch(button);
+            KO_FUZZ_TRACE("list%d.removeItem(%s)\n", index(list), qPrintable(name(button)));
             list.removeItem(button);
             if (inList) {
                 KO_FUZZ_CHECK(list.count() == before - 1 && !watch, QStringLiteral("removing ") + name(button));
@@ -160,6 +170,7 @@ private:
             const int before = list.count();
             const int row = data.ConsumeIntegralInRange<int>(-1, before);
             QAbstractButton *expected = buttonAt(list, row);
+            KO_FUZZ_TRACE("list%d.takeItem(%d)\n", index(list), row);
             QPointer<QAbstractButton> taken(list.takeItem(row));
             KO_FUZZ_CHECK(taken == expected, QStringLiteral("taking row %1 gave ").arg(row) + name(taken));
             if (taken) {
@@ -176,6 +187,7 @@ private:
             std::vector<QPointer<QAbstractButton>> held;
             for (int row = 0; row < list.count(); ++row)
                 held.emplace_back(buttonAt(list, row));
+            KO_FUZZ_TRACE("list%d.clear()\n", index(list));
             list.clear();
             KO_FUZZ_CHECK(list.count() == 0, QStringLiteral("clearing left rows"));
             fuzz::settle();
@@ -185,12 +197,16 @@ private:
         }
         case 6:
             // The application deletes a button; its row stays, empty.
-            if (!pool.empty())
-                delete pool[data.ConsumeIntegralInRange<std::size_t>(0, pool.size() - 1)].data();
+            if (!pool.empty()) {
+                QPushButton *button = pool[data.ConsumeIntegralInRange<std::size_t>(0, pool.size() - 1)];
+                KO_FUZZ_TRACE("delete %s\n", qPrintable(name(button)));
+                delete button;
+            }
             break;
         case 7: {
             const int current = list.currentRow();
             const int row = data.ConsumeIntegralInRange<int>(-1, list.count());
+            KO_FUZZ_TRACE("list%d.setCurrentRow(%d)\n", index(list), row);
             list.setCurrentRow(row);
             QAbstractButton *button = buttonAt(list, row);
             if (button && button->isCheckable()) {
@@ -206,7 +222,9 @@ private:
         case 9: {
             QPushButton *button = consumeButton();
             const bool wasChecked = button->isChecked();
-            if (data.ConsumeBool())
+            const bool click = data.ConsumeBool();
+            KO_FUZZ_TRACE("%s->%s\n", qPrintable(name(button)), click ? "click()" : wasChecked ? "setChecked(false)" : "setChecked(true)");
+            if (click)
                 button->click();
             else
                 button->setChecked(!wasChecked);
@@ -223,6 +241,7 @@ private:
             list.setProperty("TestID", named ? QVariant(QStringLiteral("Menu")) : QVariant());
             if (!named)
                 break; // every button would get "Row.", with Qt's warning about the missing marker
+            KO_FUZZ_TRACE("list%d.instrument()\n", index(list));
             list.instrument();
             for (int row = 0; row < list.count(); ++row) {
                 if (QWidget *rowWidget = list.widget(row)) {
@@ -237,6 +256,7 @@ private:
             QScrollBar &bar = scrollBar();
             const int before = bar.value();
             const bool enabled = button->isEnabled();
+            KO_FUZZ_TRACE("%s navigator click()\n", button == next ? "next" : "previous");
             button->click();
             if (enabled) {
                 const int expected = button == next ? std::min(bar.maximum(), before + bar.singleStep())
@@ -246,11 +266,13 @@ private:
             break;
         }
         case 12:
+            KO_FUZZ_TRACE("navigators setHideIfScrollBarWouldHide\n");
             next->setHideIfScrollBarWouldHide(data.ConsumeBool());
             previous->setHideIfScrollBarWouldHide(data.ConsumeBool());
             break;
         case 13: {
             // The application gives the list a scroll bar of its own, and the old one goes.
+            KO_FUZZ_TRACE("list1 gets a new scroll bar\n");
             auto *bar = new QScrollBar(direction == Direction::Horizontal ? Qt::Horizontal : Qt::Vertical);
             if (direction == Direction::Horizontal)
                 lists[1]->setHorizontalScrollBar(bar);
@@ -261,6 +283,7 @@ private:
         }
         default:
             wrapped.resize(data.ConsumeIntegralInRange<int>(0, 300), data.ConsumeIntegralInRange<int>(0, 300));
+            KO_FUZZ_TRACE("navigator list resized to %d x %d, shown %d\n", wrapped.width(), wrapped.height(), wrapped.isVisible());
             fuzz::settle();
             checkNavigators();
             break;
