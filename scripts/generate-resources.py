@@ -1,8 +1,10 @@
 #!/usr/bin/env python3
-"""Draws the bundle's icons (24x24 SVG) and scroll-bar arrows (14x14 RGBA PNG).
+"""Draws the bundle's icons (24x24 SVG) and scroll-bar arrows (14x14 RGBA PNG), and the icons
+of the dark collection (:/ko/) that the bundle has no variant of for dark backgrounds.
 
 The files are committed; run this again only to change a shape or a colour:
     python3 scripts/generate-resources.py src/ko/qtToolkit/resources
+writes the bundle there and the dark collection into its dark/ folder.
 """
 import os
 import struct
@@ -10,6 +12,10 @@ import sys
 import zlib
 
 COLOURS = {"black": "#000000", "gray": "#b3b3b3", "white": "#FFFFFF"}
+
+# On #1a1a1a the bundle's gray is nearly as bright as white; disabled icons of the dark sheet are
+# dimmer, yet keep 3:1 against the background.
+DIMGRAY = "#696969"
 
 # Each shape is an SVG fragment drawn with the fill colour; holes use the even-odd rule.
 TRIANGLES = {
@@ -57,6 +63,17 @@ def svg_files():
             yield f"ic_{name}_{variant}_24px.svg", filled(path, colour)
     yield "ic_cross_darkgray_24px.svg", cross("#303030")
     yield "ic_cross_red_24px.svg", cross("#c31a00")
+
+
+def dark_svg_files():
+    for direction, path in TRIANGLES.items():
+        if direction in ("left", "right"):
+            yield f"ic_arrow_drop_{direction}_white_24px.svg", filled(path, COLOURS["white"])
+        yield f"ic_arrow_drop_{direction}_dimgray_24px.svg", filled(path, DIMGRAY)
+    for name, path in SHAPES.items():
+        yield f"ic_{name}_dimgray_24px.svg", filled(path, DIMGRAY)
+    yield "ic_cross_lightgray_24px.svg", cross("#cccccc")
+    yield "ic_cross_lightred_24px.svg", cross("#ff5c4d")
 
 
 def png(width, height, rgba_rows):
@@ -110,6 +127,15 @@ def main():
     for direction, triangle in ARROWS.items():
         with open(os.path.join(out, f"scrollbar-arrow-{direction}.png"), "wb") as f:
             f.write(arrow_png(triangle))
+
+    dark = os.path.join(out, "dark")
+    os.makedirs(dark, exist_ok=True)
+    for name, text in dark_svg_files():
+        with open(os.path.join(dark, name), "w", encoding="ascii") as f:
+            f.write(text)
+    for direction, triangle in ARROWS.items():
+        with open(os.path.join(dark, f"scrollbar-arrow-{direction}.png"), "wb") as f:
+            f.write(arrow_png(triangle, colour=(0xb3, 0xb3, 0xb3)))
 
 
 if __name__ == "__main__":

@@ -15,6 +15,8 @@ packages=(
   g++ cmake ninja-build pkg-config dpkg-dev
   qtbase5-dev qtbase5-private-dev libqt5charts5-dev libqt5svg5-dev
   libbenchmark-dev fonts-dejavu-core xvfb xauth
+  # the binary-interface check (scripts/abi-check.sh)
+  abigail-tools
   # benchmark-only peers; the build works without them
   libqcustomplot-dev libqwt-qt5-dev
 )

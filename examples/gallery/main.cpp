@@ -1,7 +1,10 @@
-// The gallery shows every widget of the library under its style sheet, one page per part.
+// The gallery shows every widget of the library under its style sheets, one page per part; the
+// switch in the corner of the tabs changes between the light and the dark sheet live.
 //
 //   ko-qttoolkit-gallery                    opens the gallery window
-//   ko-qttoolkit-gallery --screenshot DIR   renders every page to DIR/<nn>-<page>.png and exits
+//   ko-qttoolkit-gallery --screenshot DIR   renders every page in both themes to
+//                                           DIR/<nn>-<page>.png and DIR/<nn>-<page>-dark.png
+//                                           and exits
 
 #include "GalleryPage.h"
 
@@ -11,6 +14,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFile>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QTextStream>
 
@@ -18,35 +22,40 @@
 
 namespace {
 
-QString styleSheet()
+QString styleSheet(const QString &path)
 {
-    QFile file(QStringLiteral(":/qtToolkit.qss"));
+    QFile file(path);
     file.open(QIODevice::ReadOnly | QIODevice::Text);
     return QString::fromUtf8(file.readAll());
 }
 
-QString fileNameFor(int index, const QString &title)
+QString fileNameFor(int index, const QString &title, bool dark)
 {
     QString slug = title.toLower();
     slug.replace(QLatin1Char(' '), QLatin1Char('-'));
-    return QStringLiteral("%1-%2.png").arg(index + 1, 2, 10, QLatin1Char('0')).arg(slug);
+    return QStringLiteral("%1-%2%3.png")
+        .arg(index + 1, 2, 10, QLatin1Char('0'))
+        .arg(slug, dark ? QStringLiteral("-dark") : QString());
 }
 
-int renderScreenshots(QTabWidget &window, const QString &directory)
+int renderScreenshots(QTabWidget &window, QPushButton &darkTheme, const QString &directory)
 {
     QDir().mkpath(directory);
     QTextStream out(stdout);
-    for (int i = 0; i < window.count(); ++i) {
-        window.setCurrentIndex(i);
-        QApplication::processEvents();
-        const QString path = QDir(directory).absoluteFilePath(fileNameFor(i, window.tabText(i)));
-        if (!window.grab().save(path)) {
-            QTextStream(stderr) << "could not write " << path << '\n';
-            return 1;
+    for (const bool dark : {false, true}) {
+        darkTheme.setChecked(dark);
+        for (int i = 0; i < window.count(); ++i) {
+            window.setCurrentIndex(i);
+            QApplication::processEvents();
+            const QString path = QDir(directory).absoluteFilePath(fileNameFor(i, window.tabText(i), dark));
+            if (!window.grab().save(path)) {
+                QTextStream(stderr) << "could not write " << path << '\n';
+                return 1;
+            }
+            out << path << '\n';
         }
-        out << path << '\n';
     }
-    out << "screenshots: " << window.count() << " pages\n";
+    out << "screenshots: " << window.count() << " pages in 2 themes\n";
     return 0;
 }
 
@@ -66,7 +75,9 @@ int main(int argc, char *argv[])
     parser.addOption(screenshot);
     parser.process(app);
 
-    app.setStyleSheet(styleSheet());
+    const QString lightSheet = styleSheet(QStringLiteral(":/qtToolkit.qss"));
+    const QString darkSheet = styleSheet(QStringLiteral(":/ko/qtToolkit-dark.qss"));
+    app.setStyleSheet(lightSheet);
 
     QVector<gallery::Page> pages = gallery::pages();
     std::stable_sort(pages.begin(), pages.end(),
@@ -77,10 +88,20 @@ int main(int argc, char *argv[])
                               .arg(ko::qtToolkit::getInterfaceVersion()));
     for (const gallery::Page &page : pages)
         window.addTab(page.create(), page.title);
+
+    // The theme switch: the application's sheet is replaced, and Qt restyles every widget.
+    auto *darkTheme = new QPushButton(QStringLiteral("Dark theme"));
+    darkTheme->setCheckable(true);
+    darkTheme->setFocusPolicy(Qt::NoFocus);
+    QObject::connect(darkTheme, &QPushButton::toggled, &app, [&app, &lightSheet, &darkSheet](bool dark) {
+        app.setStyleSheet(dark ? darkSheet : lightSheet);
+    });
+    window.setCornerWidget(darkTheme, Qt::TopRightCorner);
+
     window.resize(1024, 720);
     window.show();
 
     if (parser.isSet(screenshot))
-        return renderScreenshots(window, parser.value(screenshot));
+        return renderScreenshots(window, *darkTheme, parser.value(screenshot));
     return app.exec();
 }

@@ -2,7 +2,7 @@
 #define KO_QTTOOLKIT_TESTS_CHARTTESTSUPPORT_H
 
 #include <ko/qtToolkit/charts/AxisTicker.h>
-#include <ko/qtToolkit/charts/CartesianChartAxis.h>
+#include <ko/qtToolkit/charts/CartesianChartAxis_p.h>
 #include <ko/qtToolkit/charts/ChartHelpers_p.h>
 
 #include <QApplication>

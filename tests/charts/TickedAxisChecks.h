@@ -7,10 +7,10 @@
 #include "ChartTestSupport.h"
 
 #include <ko/qtToolkit/charts/AxisTicker.h>
-#include <ko/qtToolkit/charts/CartesianChartAxis.h>
-#include <ko/qtToolkit/charts/EmptyPolarAxis.h>
-#include <ko/qtToolkit/charts/HorizontalAxis.h>
-#include <ko/qtToolkit/charts/VerticalAxis.h>
+#include <ko/qtToolkit/charts/CartesianChartAxis_p.h>
+#include <ko/qtToolkit/charts/EmptyPolarAxis_p.h>
+#include <ko/qtToolkit/charts/HorizontalAxis_p.h>
+#include <ko/qtToolkit/charts/VerticalAxis_p.h>
 
 #include <QGraphicsTextItem>
 #include <QSignalSpy>

@@ -3,6 +3,8 @@
 
 #include <ko/qtToolkit/charts/AxisTicker.h>
 
+#include <TestSupport.h>
+
 #include <QStringList>
 #include <QTest>
 #include <QVector>
@@ -51,34 +53,7 @@ inline bool nearlyEqual(const Values &a, const Values &b)
     return true;
 }
 
-// Collects the messages logged while it lives, instead of printing them: all of them, or each
-// distinct text once.
-class MessageLog
-{
-public:
-    enum Mode { Every, Distinct };
-
-    explicit MessageLog(Mode mode = Every)
-    {
-        s_mode = mode;
-        s_messages.clear();
-        m_previous = qInstallMessageHandler(&MessageLog::handle);
-    }
-    ~MessageLog() { qInstallMessageHandler(m_previous); }
-
-    QStringList messages() const { return s_messages; }
-
-private:
-    static void handle(QtMsgType, const QMessageLogContext &, const QString &message)
-    {
-        if (s_mode == Every || !s_messages.contains(message))
-            s_messages.append(message);
-    }
-
-    static inline Mode s_mode = Every;
-    static inline QStringList s_messages;
-    QtMessageHandler m_previous;
-};
+using ko::qtToolkit::test::MessageLog;
 
 struct Generated
 {

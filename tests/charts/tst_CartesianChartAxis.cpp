@@ -1,14 +1,15 @@
 #include "ChartTestSupport.h"
 
 #include <ko/qtToolkit/charts/AxisTicker.h>
-#include <ko/qtToolkit/charts/CartesianChartAxis.h>
+#include <ko/qtToolkit/charts/CartesianChartAxis_p.h>
 #include <ko/qtToolkit/charts/ChartHelpers.h>
-#include <ko/qtToolkit/charts/GraphicsLineItem.h>
-#include <ko/qtToolkit/charts/HorizontalAxis.h>
+#include <ko/qtToolkit/charts/CustomAxisTicker.h>
+#include <ko/qtToolkit/charts/GraphicsLineItem_p.h>
+#include <ko/qtToolkit/charts/HorizontalAxis_p.h>
 #include <ko/qtToolkit/charts/LinearAxis.h>
 #include <ko/qtToolkit/charts/LogarithmicAxis.h>
 #include <ko/qtToolkit/charts/LogarithmicAxisTicker.h>
-#include <ko/qtToolkit/charts/VerticalAxis.h>
+#include <ko/qtToolkit/charts/VerticalAxis_p.h>
 
 #include <TestSupport.h>
 
@@ -18,6 +19,7 @@
 #include <QTest>
 #include <QTextDocument>
 #include <QtCharts/QValueAxis>
+#include <QtCharts/private/axisanimation_p.h>
 
 #include <algorithm>
 #include <cmath>
@@ -27,6 +29,8 @@ using namespace ko::qtToolkit::charts;
 using ko::qtToolkit::test::lineAt;
 using ko::qtToolkit::test::textAt;
 using ko::qtToolkit::test::TestChart;
+using ko::qtToolkit::test::Tick;
+using ko::qtToolkit::test::ticksOf;
 using QtCharts::QAbstractAxis;
 
 namespace {
@@ -358,6 +362,52 @@ private Q_SLOTS:
         QCOMPARE(element->allLabels(), element->labels() + element->minorLabels());
     }
 
+    // Minor labels set by hand stand until the next layout pass takes the ticker's again, as the
+    // major labels do with setLabels().
+    void setMinorLabelsHoldsUntilTheNextLayout()
+    {
+        TestChart chart;
+        auto *axis = chart.addAxis(new LinearAxis, Qt::AlignBottom);
+        axis->setRange(0.0, 100.0);
+        chart.layout();
+        auto *element = TestChart::element<CartesianChartAxis>(*axis);
+        const QStringList fromTicker = element->minorLabels();
+        const QStringList byHand{"a", "b", "c", "d", "e", "f", "g"};
+        element->setMinorLabels(byHand);
+        QCOMPARE(element->minorLabels(), byHand);
+        element->setMinorLabels({});
+        QCOMPARE(element->minorLabels(), QStringList());
+        relayout(element);
+        QCOMPARE(element->minorLabels(), fromTicker);
+    }
+
+    // A ticker asked for more ticks than an axis can show thins them: the axis stays readable.
+    void tickCountPastTheCapStillShowsTicks_data()
+    {
+        QTest::addColumn<int>("tickCount");
+        QTest::newRow("at the cap") << 497;
+        QTest::newRow("just above the cap") << 501;
+        QTest::newRow("far above the cap") << 100000;
+    }
+
+    void tickCountPastTheCapStillShowsTicks()
+    {
+        QFETCH(int, tickCount);
+        AxisTicker ticker;
+        ticker.setTickCount(tickCount);
+        TestChart chart;
+        auto *axis = chart.addAxis(new LinearAxis, Qt::AlignBottom);
+        axis->setTicker(&ticker);
+        axis->setRange(0.0, 497.0);
+        chart.layout();
+        auto *element = TestChart::element<CartesianChartAxis>(*axis);
+        QVERIFY(element->majorTickValues().size() > 100);
+        QVERIFY(element->majorTickValues().size() <= 500);
+        QCOMPARE(element->labels().size(), element->majorTickValues().size());
+        QCOMPARE(itemsOf(element->gridGroup()).size(), element->majorTickValues().size());
+        QCOMPARE(element->labels().constFirst(), QStringLiteral("0.00"));
+    }
+
     void allLabelsLeavesLayoutAlone()
     {
         TestChart chart;
@@ -589,6 +639,63 @@ private Q_SLOTS:
         chart.chart()->scroll(37.0, 0.0);
         QTRY_COMPARE(lineAt(element->gridGroup(), 0)->line().x1(), coordToPixel(*axis, element->majorTickValues().at(0)));
         verifyItemCounts(element);
+    }
+
+    // Every position a layout hands to an item is finite and far inside what whole-pixel
+    // rounding can take, however the range overflows or collapses.
+    void hostileRangesKeepItemsInPlace_data()
+    {
+        QTest::addColumn<Qt::Alignment>("alignment");
+        QTest::addColumn<bool>("collapseDuringAnimation");
+        QTest::newRow("bottom, range over most of the doubles") << Qt::Alignment(Qt::AlignBottom) << false;
+        QTest::newRow("left, range over most of the doubles") << Qt::Alignment(Qt::AlignLeft) << false;
+        QTest::newRow("bottom, range collapses while animated") << Qt::Alignment(Qt::AlignBottom) << true;
+        QTest::newRow("left, range collapses while animated") << Qt::Alignment(Qt::AlignLeft) << true;
+    }
+
+    void hostileRangesKeepItemsInPlace()
+    {
+        QFETCH(Qt::Alignment, alignment);
+        QFETCH(bool, collapseDuringAnimation);
+
+        // Ticks at both ends of the double range, whatever the range: their distance overflows.
+        CustomAxisTicker ticker;
+        for (const double value : {-1e308, -1.0, 0.0, 1.0, 1e308})
+            ticker.addTick(value);
+        TestChart chart;
+        auto *axis = chart.addAxis(new LinearAxis, alignment);
+        axis->setTicker(&ticker);
+        auto *element = TestChart::element<CartesianChartAxis>(*axis);
+        if (collapseDuringAnimation) {
+            chart.chart()->setAnimationOptions(QtCharts::QChart::GridAxisAnimations);
+            chart.chart()->setAnimationDuration(1000);
+            axis->setRange(-10.0, 10.0);
+            chart.layout();
+            QVERIFY(element->animation());
+            QTRY_COMPARE(element->animation()->state(), QAbstractAnimation::Stopped);
+            axis->setRange(0.0, 20.0);
+            QTRY_COMPARE(element->animation()->state(), QAbstractAnimation::Running);
+            axis->setRange(5.0, 5.0);
+            QTRY_COMPARE(element->animation()->state(), QAbstractAnimation::Stopped);
+        } else {
+            axis->setRange(-1e308, 1e308);
+            chart.layout();
+        }
+        QVERIFY(!ticksOf(element).isEmpty());
+
+        constexpr qreal limit = 2e6;
+        const auto inPlace = [limit](qreal position) { return std::isfinite(position) && std::abs(position) < limit; };
+        for (const Tick &tick : ticksOf(element)) {
+            const QLineF grid = tick.grid->line();
+            QVERIFY2(inPlace(grid.x1()) && inPlace(grid.y1()) && inPlace(grid.x2()) && inPlace(grid.y2()),
+                     qPrintable(QStringLiteral("tick %1: grid line %2,%3").arg(tick.value).arg(grid.x1()).arg(grid.y1())));
+            const QPointF label = tick.label->pos();
+            QVERIFY2(inPlace(label.x()) && inPlace(label.y()),
+                     qPrintable(QStringLiteral("tick %1: label at %2,%3").arg(tick.value).arg(label.x()).arg(label.y())));
+        }
+        for (const qreal position : element->layout())
+            QVERIFY(inPlace(position));
+        chart.render();
     }
 
     void renderedImage()

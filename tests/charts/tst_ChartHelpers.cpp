@@ -313,6 +313,8 @@ private Q_SLOTS:
         QTest::newRow("maximum too high") << 1e9 << 0.0 << 1e12 << 1.0 << 10.0;
         QTest::newRow("span too small") << 1e-11 << 0.0 << 1000.0 << 1.0 << 10.0;
         QTest::newRow("not finite") << std::numeric_limits<double>::infinity() << 0.0 << 1e300 << 1.0 << 10.0;
+        QTest::newRow("lower bound not a number") << 10.0 << std::numeric_limits<double>::quiet_NaN() << 1000.0 << 1.0 << 10.0;
+        QTest::newRow("upper bound not a number") << 10.0 << 0.1 << std::numeric_limits<double>::quiet_NaN() << 1.0 << 10.0;
     }
 
     void translateLogarithmic()
@@ -368,6 +370,10 @@ private Q_SLOTS:
         QTest::newRow("end at the maximum magnitude") << 0.0 << 2.0 << 1e-6 << 20.0 << 0.0 << 10.0;
         QTest::newRow("mirrored") << 5.0 << -1.0 << 1e-6 << 1e6 << 0.0 << 10.0;
         QTest::newRow("not finite") << 5.0 << std::numeric_limits<double>::infinity() << 1e-6 << 1e300 << 0.0 << 10.0;
+        QTest::newRow("collapsed, limits not a number") << 5.0 << 0.0 << std::numeric_limits<double>::quiet_NaN() << std::numeric_limits<double>::quiet_NaN() << 0.0 << 10.0;
+        QTest::newRow("minimum span not a number") << 5.0 << 0.5 << std::numeric_limits<double>::quiet_NaN() << 1e6 << 0.0 << 10.0;
+        QTest::newRow("maximum magnitude not a number") << 5.0 << 0.5 << 1e-6 << std::numeric_limits<double>::quiet_NaN() << 0.0 << 10.0;
+        QTest::newRow("centre not a number") << std::numeric_limits<double>::quiet_NaN() << 0.5 << 1e-6 << 1e6 << 0.0 << 10.0;
     }
 
     void scaleLinear()
@@ -398,6 +404,7 @@ private Q_SLOTS:
                                                 << 10.0 * std::sqrt(10.0);
         QTest::newRow("zoom out") << 10.0 << 100.0 << 10.0 << 2.0 << 1e-6 << 10.0 << 1000.0;
         QTest::newRow("span at the minimum") << 10.0 << 100.0 << 10.0 << 0.5 << 1000.0 << 10.0 << 100.0;
+        QTest::newRow("minimum span not a number") << 10.0 << 100.0 << 10.0 << 0.5 << std::numeric_limits<double>::quiet_NaN() << 10.0 << 100.0;
         QTest::newRow("about zero") << 10.0 << 100.0 << 0.0 << 0.5 << 1e-6 << 10.0 << 100.0;
         // 0.5 to the power 2000 is zero in double: the new minimum is moved off zero.
         QTest::newRow("minimum reaches zero") << 0.5 << 1.0 << 1.0 << 2000.0 << 1e-6 << 0.001 << 1.0;
@@ -471,6 +478,48 @@ private Q_SLOTS:
         log.setLabelFormat(axisFormat);
         const QAbstractAxis &axis = logarithmic ? static_cast<QAbstractAxis &>(log) : linear;
         QCOMPARE(formatLabel(axis, 2.5, QStringLiteral("%.3f")), expected);
+    }
+
+    // The axis's format goes through the same check as a ticker's; a refused one gives way to
+    // the default format, which is checked too.
+    void formatLabelRefusesUnsafeFormats_data()
+    {
+        QTest::addColumn<bool>("logarithmic");
+        QTest::addColumn<QString>("axisFormat");
+        QTest::addColumn<QString>("defaultFormat");
+        QTest::addColumn<QString>("expected");
+        QTest::addColumn<bool>("warns");
+        QTest::newRow("integer and string") << false << "%d %s" << "%.2f" << "1.50" << false;
+        QTest::newRow("writes through a pointer") << false << "%n" << "%.2f" << "1.50" << false;
+        QTest::newRow("two conversions") << true << "%f %f" << "%.1f" << "1.5" << false;
+        QTest::newRow("width from an argument") << false << "%*f" << "%.2f" << "1.50" << false;
+        QTest::newRow("width of a thousand") << false << "%0999.999g" << "%.2f" << "1.50" << false;
+        QTest::newRow("integer rounds the value") << false << "%d dB" << "%.2f" << "2 dB" << false;
+        QTest::newRow("long integer reads 64 bits") << true << "%ld" << "%.2f" << "2" << false;
+        QTest::newRow("refused default too") << false << "" << "%s" << "" << true;
+        QTest::newRow("refused default after refused axis format") << false << "%n" << "%p" << "" << true;
+    }
+
+    void formatLabelRefusesUnsafeFormats()
+    {
+        QFETCH(bool, logarithmic);
+        QFETCH(QString, axisFormat);
+        QFETCH(QString, defaultFormat);
+        QFETCH(QString, expected);
+        QFETCH(bool, warns);
+
+        QValueAxis linear;
+        QLogValueAxis log;
+        linear.setLabelFormat(axisFormat);
+        log.setLabelFormat(axisFormat);
+        const QAbstractAxis &axis = logarithmic ? static_cast<QAbstractAxis &>(log) : linear;
+        if (warns) {
+            QTest::ignoreMessage(QtWarningMsg,
+                                 qPrintable(QStringLiteral("formatLabel: ignoring \"%1\": a label format takes at most "
+                                                           "one floating-point or integer conversion")
+                                                .arg(defaultFormat)));
+        }
+        QCOMPARE(formatLabel(axis, 1.5, defaultFormat), expected);
     }
 };
 

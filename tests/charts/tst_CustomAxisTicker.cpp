@@ -47,7 +47,7 @@ private Q_SLOTS:
     void infiniteTicksStayOutside();
     void degenerateRanges_data();
     void degenerateRanges();
-    void tooManyTicksGiveNone();
+    void tooManyTicksAreThinned();
 };
 
 void tst_CustomAxisTicker::defaults()
@@ -301,24 +301,40 @@ void tst_CustomAxisTicker::degenerateRanges()
     COMPARE_VALUES(result.subTicks, Values{});
 }
 
-void tst_CustomAxisTicker::tooManyTicksGiveNone()
+// An axis shows at most 500 ticks: more are thinned to every n-th of the whole set, the
+// smallest n that fits, so that the kept ones stay put while the range pans.
+void tst_CustomAxisTicker::tooManyTicksAreThinned()
 {
     CustomAxisTicker ticker;
     for (int i = 0; i < 1000; ++i)
         ticker.addTick(i);
     ticker.setSubTickCount(1);
-    // 498 ticks in range and one beyond each end: 500.
+    // At the cap: 498 ticks in range and one beyond each end.
     QCOMPARE(ticker.createTicks(1.0, 1.0, 498.0).size(), 500);
     QCOMPARE(generated(ticker, 1.0, 498.0).ticks.size(), 498);
-    QVERIFY(ticker.createTicks(1.0, 1.0, 499.0).isEmpty());
+    // Just above: 501, so every second, counted from the first tick of the set.
+    const Values thinned = ticker.createTicks(1.0, 1.0, 499.0);
+    QCOMPARE(thinned.size(), 251);
+    for (int i = 0; i < thinned.size(); ++i)
+        QCOMPARE(thinned[i], 2.0 * i);
+    // Panned by one: still the even ticks, with the nearest odd ones as outliers.
+    const Generated panned = generated(ticker, 2.0, 500.0);
+    QCOMPARE(panned.ticks.constFirst(), 2.0);
+    QCOMPARE(panned.ticks.constLast(), 500.0);
+    for (const double tick : panned.ticks)
+        QCOMPARE(std::fmod(tick, 2.0), 0.0);
+    // All of them: every third.
     const Generated all = generated(ticker, 0.0, 999.0);
-    QVERIFY(all.ticks.isEmpty());
-    QVERIFY(all.subTicks.isEmpty());
-    // Too many sub-ticks: 10 intervals of 1000.
+    QCOMPARE(all.ticks.size(), 334);
+    QCOMPARE(all.ticks.at(1), 3.0);
+    QCOMPARE(all.subTicks.size(), 333);
+
+    // Too many sub-ticks: 10 intervals of 1000 become 10 of 500, evenly spaced.
     ticker.setSubTickCount(1000);
     const Generated dense = generated(ticker, 0.0, 9.0);
     QCOMPARE(dense.ticks.size(), 10);
-    QVERIFY(dense.subTicks.isEmpty());
+    QCOMPARE(dense.subTicks.size(), 9 * 500);
+    QVERIFY(std::abs(dense.subTicks.constFirst() - 1.0 / 501.0) < 1e-12);
 }
 
 QTEST_APPLESS_MAIN(tst_CustomAxisTicker)

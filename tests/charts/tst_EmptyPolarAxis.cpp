@@ -1,6 +1,6 @@
 #include "ChartTestSupport.h"
 
-#include <ko/qtToolkit/charts/EmptyPolarAxis.h>
+#include <ko/qtToolkit/charts/EmptyPolarAxis_p.h>
 #include <ko/qtToolkit/charts/LinearAxis.h>
 #include <ko/qtToolkit/charts/LogarithmicAxis.h>
 

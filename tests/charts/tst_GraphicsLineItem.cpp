@@ -1,4 +1,4 @@
-#include <ko/qtToolkit/charts/GraphicsLineItem.h>
+#include <ko/qtToolkit/charts/GraphicsLineItem_p.h>
 
 #include <QGraphicsScene>
 #include <QPainter>

@@ -1,7 +1,8 @@
+#include "AxisLayoutChecks.h"
 #include "ChartTestSupport.h"
 
 #include <ko/qtToolkit/charts/ChartHelpers.h>
-#include <ko/qtToolkit/charts/HorizontalAxis.h>
+#include <ko/qtToolkit/charts/HorizontalAxis_p.h>
 #include <ko/qtToolkit/charts/LinearAxis.h>
 
 #include <TestSupport.h>
@@ -38,6 +39,7 @@ class tst_HorizontalAxis : public QObject
     Q_OBJECT
 
 private:
+    const axisLayout::Frame frame{Qt::Horizontal};
     TestChart *m_chart = nullptr;
     LinearAxis *m_axis = nullptr;
 
@@ -265,108 +267,40 @@ private Q_SLOTS:
 
     void otherAlignmentLeavesItemsUnplaced()
     {
-        // A horizontal element asked to draw an axis that sits at the left.
+        // An element of this orientation asked to draw an axis aligned for the other.
         m_axis = m_chart->addAxis(new LinearAxis, Qt::AlignLeft);
         m_axis->setRange(0.0, 100.0);
         m_chart->layout();
         QGraphicsRectItem root;
         HorizontalAxis element(m_axis, &root);
         element.setGeometry(bottomAxisRect, gridRect);
-        QCOMPARE(lineAt(element.arrowGroup(), 0)->line(), QLineF());
-        for (const Tick &tick : ticksOf(&element)) {
-            QCOMPARE(tick.mark->line(), QLineF());
-            QCOMPARE(tick.label->pos(), QPointF(0, 0));
-            QVERIFY(!tick.label->toPlainText().isEmpty());
-        }
+        axisLayout::checkOtherAlignmentLeavesItemsUnplaced(element);
     }
 
-    void minimumSizeHint_data()
-    {
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<int>("angle");
-        QTest::newRow("no title") << "" << 0;
-        QTest::newRow("title") << "Level" << 0;
-        QTest::newRow("turned labels") << "" << 45;
-    }
-
+    void minimumSizeHint_data() { axisLayout::sizeHintRows(); }
     void minimumSizeHint()
     {
-        QFETCH(QString, title);
-        QFETCH(int, angle);
-
-        HorizontalAxis *element = layOut(Qt::AlignBottom, bottomAxisRect);
-        m_axis->setTitleText(title);
-        m_axis->setLabelsAngle(angle);
-        const QFont font = ko::qtToolkit::test::fixedFont();
-        const QRectF dots = ChartPresenter::textBoundingRect(font, QStringLiteral("..."), angle);
-        const qreal titleHeight = title.isEmpty()
-            ? 0.0
-            : ChartPresenter::textBoundingRect(m_axis->titleFont(), QStringLiteral("..."), 0.0).height() + 4.0;
-        QCOMPARE(element->sizeHint(Qt::MinimumSize), QSizeF(dots.width() / 2.0, dots.height() + 4.0 + titleHeight + 1.0));
+        const HorizontalAxis *element = layOut(Qt::AlignBottom, bottomAxisRect);
+        axisLayout::checkMinimumSizeHint(*element, *m_axis, frame);
     }
-
-    void preferredSizeHint_data()
-    {
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<bool>("titleVisible");
-        QTest::newRow("no title") << "" << true;
-        QTest::newRow("title") << "Level" << true;
-        QTest::newRow("hidden title") << "Level" << false;
-    }
-
+    void preferredSizeHint_data() { axisLayout::sizeHintRows(); }
     void preferredSizeHint()
     {
-        QFETCH(QString, title);
-        QFETCH(bool, titleVisible);
-
-        HorizontalAxis *element = layOut(Qt::AlignBottom, bottomAxisRect);
-        m_axis->setRange(0.0, 1000.0);
-        m_axis->setTitleText(title);
-        m_axis->setTitleVisible(titleVisible);
-        const QFont font = ko::qtToolkit::test::fixedFont();
-        const QStringList labels = element->allLabels();
-        QCOMPARE(labels.constFirst(), QStringLiteral("0.00"));
-        QCOMPARE(labels.constLast(), QStringLiteral("1000.00"));
-        qreal height = 0.0;
-        for (const QString &label : labels)
-            height = std::max(height, ChartPresenter::textBoundingRect(font, label, 0.0).height());
-        const qreal titleHeight = title.isEmpty() || !titleVisible
-            ? 0.0
-            : ChartPresenter::textBoundingRect(m_axis->titleFont(), title, 0.0).height() + 4.0;
-        // The last label, a minor one, is the widest.
-        const qreal width = ChartPresenter::textBoundingRect(font, labels.constLast(), 0.0).width();
-        QCOMPARE(element->sizeHint(Qt::PreferredSize), QSizeF(width / 2.0, height + 4.0 + titleHeight + 1.0));
+        const HorizontalAxis *element = layOut(Qt::AlignBottom, bottomAxisRect);
+        axisLayout::checkPreferredSizeHint(*element, *m_axis, frame);
     }
 
-    void preferredSizeHintWithoutLabels_data()
-    {
-        QTest::addColumn<QString>("title");
-        QTest::newRow("no title") << "";
-        QTest::newRow("title") << "A rather long title";
-    }
-
+    void preferredSizeHintWithoutLabels_data() { axisLayout::labelRows(); }
     void preferredSizeHintWithoutLabels()
     {
-        QFETCH(QString, title);
-
         EmptyTicker ticker;
         HorizontalAxis *element = layOut(Qt::AlignBottom, bottomAxisRect);
         m_axis->setTicker(&ticker);
-        m_axis->setTitleText(title);
-        QVERIFY(element->allLabels().isEmpty());
-        const QRectF titleRect = title.isEmpty() ? QRectF()
-                                                 : ChartPresenter::textBoundingRect(m_axis->titleFont(), title, 0.0);
-        const qreal titleHeight = title.isEmpty() ? 0.0 : titleRect.height() + 4.0;
-        QCOMPARE(element->sizeHint(Qt::PreferredSize), QSizeF(titleRect.width() / 2.0, 4.0 + titleHeight + 1.0));
+        axisLayout::checkPreferredSizeHintWithoutLabels(*element, *m_axis, frame);
         m_axis->setTicker(nullptr);
     }
 
-    void otherSizeHints()
-    {
-        HorizontalAxis *element = layOut(Qt::AlignBottom, bottomAxisRect);
-        QCOMPARE(element->sizeHint(Qt::MaximumSize), QSizeF(-1, -1));
-        QCOMPARE(element->sizeHint(Qt::MinimumDescent), QSizeF(-1, -1));
-    }
+    void otherSizeHints() { axisLayout::checkOtherSizeHints(*layOut(Qt::AlignBottom, bottomAxisRect)); }
 
     void chartReservesRoomForLabels()
     {

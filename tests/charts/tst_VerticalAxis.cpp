@@ -1,8 +1,9 @@
+#include "AxisLayoutChecks.h"
 #include "ChartTestSupport.h"
 
 #include <ko/qtToolkit/charts/ChartHelpers.h>
 #include <ko/qtToolkit/charts/LogarithmicAxis.h>
-#include <ko/qtToolkit/charts/VerticalAxis.h>
+#include <ko/qtToolkit/charts/VerticalAxis_p.h>
 
 #include <TestSupport.h>
 
@@ -29,6 +30,7 @@ class tst_VerticalAxis : public QObject
     Q_OBJECT
 
 private:
+    const axisLayout::Frame frame{Qt::Vertical};
     TestChart *m_chart = nullptr;
     LogarithmicAxis *m_axis = nullptr;
 
@@ -175,107 +177,40 @@ private Q_SLOTS:
 
     void otherAlignmentLeavesItemsUnplaced()
     {
+        // An element of this orientation asked to draw an axis aligned for the other.
         m_axis = m_chart->addAxis(new LogarithmicAxis, Qt::AlignBottom);
         m_axis->setRange(1.0, 1000.0);
         m_chart->layout();
         QGraphicsRectItem root;
         VerticalAxis element(m_axis, &root);
         element.setGeometry(leftAxisRect, gridRect);
-        QCOMPARE(lineAt(element.arrowGroup(), 0)->line(), QLineF());
-        for (const Tick &tick : ticksOf(&element)) {
-            QCOMPARE(tick.mark->line(), QLineF());
-            QCOMPARE(tick.label->pos(), QPointF(0, 0));
-        }
+        axisLayout::checkOtherAlignmentLeavesItemsUnplaced(element);
     }
 
-    void minimumSizeHint_data()
-    {
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<bool>("titleVisible");
-        QTest::newRow("no title") << "" << true;
-        QTest::newRow("title") << "Level" << true;
-        QTest::newRow("hidden title") << "Level" << false;
-    }
-
+    void minimumSizeHint_data() { axisLayout::sizeHintRows(); }
     void minimumSizeHint()
     {
-        QFETCH(QString, title);
-        QFETCH(bool, titleVisible);
-
-        VerticalAxis *element = layOut(Qt::AlignLeft, leftAxisRect);
-        m_axis->setTitleText(title);
-        m_axis->setTitleVisible(titleVisible);
-        const QRectF dots = ChartPresenter::textBoundingRect(fixedFont(), QStringLiteral("..."), 0.0);
-        const qreal titleWidth = title.isEmpty() || !titleVisible
-            ? 0.0
-            : ChartPresenter::textBoundingRect(m_axis->titleFont(), QStringLiteral("..."), 0.0).height() + 4.0;
-        QCOMPARE(element->sizeHint(Qt::MinimumSize),
-                 QSizeF(titleWidth + dots.width() + 4.0 + 1.0, dots.height() / 2.0));
+        const VerticalAxis *element = layOut(Qt::AlignLeft, leftAxisRect);
+        axisLayout::checkMinimumSizeHint(*element, *m_axis, frame);
     }
-
-    void preferredSizeHint_data()
-    {
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<int>("angle");
-        QTest::newRow("no title") << "" << 0;
-        QTest::newRow("title") << "Level" << 0;
-        QTest::newRow("turned labels") << "" << 90;
-    }
-
+    void preferredSizeHint_data() { axisLayout::sizeHintRows(); }
     void preferredSizeHint()
     {
-        QFETCH(QString, title);
-        QFETCH(int, angle);
-
-        VerticalAxis *element = layOut(Qt::AlignLeft, leftAxisRect);
-        m_axis->setTitleText(title);
-        m_axis->setLabelsAngle(angle);
-        const QStringList labels = element->allLabels();
-        QCOMPARE(labels, QStringList({"300.00", "600.00", "900.00", "100.00", "200.00", "400.00", "500.00", "700.00",
-                                      "800.00", "1000.00"}));
-        qreal width = 0.0;
-        for (const QString &label : labels)
-            width = std::max(width, ChartPresenter::textBoundingRect(fixedFont(), label, angle).width());
-        const qreal firstHeight = ChartPresenter::textBoundingRect(fixedFont(), labels.constFirst(), angle).height();
-        const qreal lastHeight = ChartPresenter::textBoundingRect(fixedFont(), labels.constLast(), angle).height();
-        const qreal titleWidth =
-            title.isEmpty() ? 0.0 : ChartPresenter::textBoundingRect(m_axis->titleFont(), title, 0.0).height() + 4.0;
-        QCOMPARE(element->sizeHint(Qt::PreferredSize),
-                 QSizeF(titleWidth + width + 4.0 + 2.0, std::max(firstHeight, lastHeight) / 2.0));
+        const VerticalAxis *element = layOut(Qt::AlignLeft, leftAxisRect);
+        axisLayout::checkPreferredSizeHint(*element, *m_axis, frame);
     }
 
-    void preferredSizeHintWithoutLabels_data()
-    {
-        QTest::addColumn<QString>("title");
-        QTest::newRow("no title") << "";
-        QTest::newRow("title") << "A rather long title";
-    }
-
+    void preferredSizeHintWithoutLabels_data() { axisLayout::labelRows(); }
     void preferredSizeHintWithoutLabels()
     {
-        QFETCH(QString, title);
-
         EmptyTicker ticker;
         VerticalAxis *element = layOut(Qt::AlignLeft, leftAxisRect);
         m_axis->setTicker(&ticker);
-        m_axis->setTitleText(title);
-        QVERIFY(element->allLabels().isEmpty());
-        if (title.isEmpty()) {
-            QCOMPARE(element->sizeHint(Qt::PreferredSize), QSizeF(6.0, 0.0));
-        } else {
-            const QRectF titleRect = ChartPresenter::textBoundingRect(m_axis->titleFont(), title, 0.0);
-            QCOMPARE(element->sizeHint(Qt::PreferredSize),
-                     QSizeF(titleRect.height() + 4.0 + 6.0, titleRect.width() / 2.0));
-        }
+        axisLayout::checkPreferredSizeHintWithoutLabels(*element, *m_axis, frame);
         m_axis->setTicker(nullptr);
     }
 
-    void otherSizeHints()
-    {
-        VerticalAxis *element = layOut(Qt::AlignLeft, leftAxisRect);
-        QCOMPARE(element->sizeHint(Qt::MaximumSize), QSizeF(-1, -1));
-        QCOMPARE(element->sizeHint(Qt::MinimumDescent), QSizeF(-1, -1));
-    }
+    void otherSizeHints() { axisLayout::checkOtherSizeHints(*layOut(Qt::AlignLeft, leftAxisRect)); }
 
     void chartReservesRoomForLabels()
     {

@@ -141,6 +141,20 @@ private Q_SLOTS:
         QTest::newRow("surrounding spaces") << c << 0.0 << 100.0 << 2 << QStringLiteral(" 12.5 ") << QStringLiteral("12.50");
         QTest::newRow("bottom above top: bottom wins") << c << 10.0 << 5.0 << 2 << QStringLiteral("7") << QStringLiteral("10.00");
         QTest::newRow("comma is not a decimal point") << c << 0.0 << 10.0 << 2 << QStringLiteral("1,5") << QStringLiteral("0.00");
+        QTest::newRow("not a number counts as zero") << c << -1000.0 << 1000.0 << 2 << QStringLiteral("nan") << QStringLiteral("0.00");
+        QTest::newRow("not a number clamped to bottom") << c << 5.0 << 10.0 << 1 << QStringLiteral("NaN") << QStringLiteral("5.0");
+        QTest::newRow("infinity counts as zero") << c << -1000.0 << 1000.0 << 2 << QStringLiteral("inf") << QStringLiteral("0.00");
+        QTest::newRow("minus infinity counts as zero") << c << 1.0 << 9.0 << 0 << QStringLiteral("-inf") << QStringLiteral("1");
+        QTest::newRow("bottom between decimals rounds up into the range")
+            << c << 0.004 << 1.0 << 2 << QStringLiteral("0") << QStringLiteral("0.01");
+        QTest::newRow("top between decimals rounds down into the range")
+            << c << -1.0 << 2.996 << 2 << QStringLiteral("5") << QStringLiteral("2.99");
+        QTest::newRow("negative bottom between decimals") << c << -2.996 << 0.0 << 2 << QStringLiteral("-7")
+                                                          << QStringLiteral("-2.99");
+        QTest::newRow("no value with those decimals in the range")
+            << c << 0.004 << 0.006 << 2 << QStringLiteral("1") << QStringLiteral("0.01");
+        QTest::newRow("decimals beyond a double's digits") << c << 0.0 << 1.0 << 2147483647 << QStringLiteral("0.5")
+                                                           << QStringLiteral("0.50000000000000000");
 
         QTest::newRow("comma locale: comma unparsable, becomes zero")
             << german << 0.0 << 10.0 << 2 << QStringLiteral("1,5") << QStringLiteral("0.00");
@@ -163,6 +177,41 @@ private Q_SLOTS:
         validator.setLocale(locale);
         validator.fixup(input);
         QCOMPARE(input, expected);
+    }
+
+    // Whatever the text, what fixup() writes is what validate() accepts, whenever the range
+    // holds a value with the validator's decimals.
+    void fixupResultIsAcceptable_data()
+    {
+        QTest::addColumn<double>("bottom");
+        QTest::addColumn<double>("top");
+        QTest::addColumn<int>("decimals");
+        QTest::newRow("default entry range") << -1000.0 << 1000.0 << 2;
+        QTest::newRow("ends between decimals") << 0.004 << 0.996 << 2;
+        QTest::newRow("negative ends between decimals") << -0.996 << -0.004 << 2;
+        QTest::newRow("no decimals") << -7.5 << 7.5 << 0;
+        QTest::newRow("many decimals") << 1e-9 << 1e-3 << 12;
+    }
+
+    void fixupResultIsAcceptable()
+    {
+        QFETCH(double, bottom);
+        QFETCH(double, top);
+        QFETCH(int, decimals);
+        DoubleValidator validator(bottom, top, decimals);
+        validator.setLocale(QLocale::c());
+        const QStringList inputs{QStringLiteral("nan"), QStringLiteral("-nan"), QStringLiteral("inf"),
+                                 QStringLiteral("-inf"), QStringLiteral("0"), QStringLiteral("-0"),
+                                 QStringLiteral("1e308"), QStringLiteral("-1e308"), QStringLiteral("0.0049999"),
+                                 QStringLiteral("0.9951"), QStringLiteral("-0.9951"), QStringLiteral("abc"),
+                                 QString(), QStringLiteral("7.49"), QStringLiteral("1e-300")};
+        for (QString text : inputs) {
+            const QString input = text;
+            validator.fixup(text);
+            int pos = 0;
+            QVERIFY2(validator.validate(text, pos) == QValidator::Acceptable,
+                     qPrintable(QStringLiteral("%1 became %2").arg(input, text)));
+        }
     }
 
     void commaLocaleValidatesWhatFixupCannotRead()

@@ -9,7 +9,7 @@
 
 #include <ko/qtToolkit/charts/AxisTicker.h>
 #include <ko/qtToolkit/charts/AxisTicker_p.h>
-#include <ko/qtToolkit/charts/CartesianChartAxis.h>
+#include <ko/qtToolkit/charts/CartesianChartAxis_p.h>
 #include <ko/qtToolkit/charts/ChartHelpers.h>
 #include <ko/qtToolkit/charts/ChartHelpers_p.h>
 #include <ko/qtToolkit/charts/CustomAxisTicker.h>
@@ -205,7 +205,7 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***)
     fuzz::createApplication();
     fuzz::expectWarnings({"tick count must be greater than zero", "AxisTicker::setLabelFormat: ignoring",
                           "Invalid range for logarithmic axis", "log base has to be greater than zero",
-                          "sub tick count can't be negative",
+                          "sub tick count can't be negative", "formatLabel: ignoring",
                           // Qt refusing a range this target sets directly.
                           "Ignored NaN, Inf, or -Inf value."});
     return 0;

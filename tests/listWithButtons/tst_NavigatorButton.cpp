@@ -184,6 +184,21 @@ private Q_SLOTS:
         QVERIFY(parent.children().isEmpty());
     }
 
+    // A scroll bar of no scroll area has nothing to be replaced by: once it is gone the button
+    // stays disabled and a press does nothing.
+    void deletedScrollBarOfNoAreaDisablesButton()
+    {
+        Fixture fixture;
+        fixture.scrollBar->setRange(0, 20);
+        QVERIFY(fixture.button->isEnabled());
+        delete fixture.scrollBar;
+        fixture.scrollBar = nullptr;
+        QTRY_VERIFY(!fixture.button->isEnabled());
+        fixture.button->updateNavigator();
+        QVERIFY(!fixture.button->isEnabled());
+        QCOMPARE(fixture.presses, 0);
+    }
+
     void destroyingButtonLeavesScrollBarAlone()
     {
         Fixture fixture;

@@ -1,4 +1,5 @@
 #include <ko/qtToolkit/widget/listWithButtons/NavigatorButton.h>
+#include <ko/qtToolkit/widget/ListWidget.h>
 #include <ko/qtToolkit/widget/listWithButtons/WidgetBase.h>
 
 #include <TestSupport.h>
@@ -11,6 +12,7 @@
 
 using ko::qtToolkit::widget::listWithButtons::Direction;
 using ko::qtToolkit::widget::listWithButtons::NavigatorButton;
+using ko::qtToolkit::widget::ListWidget;
 using ko::qtToolkit::widget::listWithButtons::WidgetBase;
 
 Q_DECLARE_METATYPE(Direction)
@@ -169,6 +171,39 @@ private Q_SLOTS:
         QVERIFY(fixture.previous->isEnabled());
     }
 
+    // A list whose scroll bar the application replaces deletes the old one: the buttons drive
+    // the new one from then on.
+    void buttonsFollowReplacedScrollBar_data() { directions(); }
+
+    void buttonsFollowReplacedScrollBar()
+    {
+        QFETCH(Direction, direction);
+        Fixture fixture(direction);
+        QVERIFY(fixture.addRowsUntilScrolling());
+        ListWidget *list = fixture.widget.getList();
+        QPointer<QScrollBar> old(fixture.scrollBar);
+        auto *replacement = new QScrollBar;
+        if (direction == Direction::Horizontal)
+            list->setHorizontalScrollBar(replacement);
+        else
+            list->setVerticalScrollBar(replacement);
+        QVERIFY(old.isNull());
+        // The buttons take up the new scroll bar once the deletion of the old one is over.
+        QCoreApplication::processEvents();
+        QVERIFY(replacement->maximum() > 0);
+        QVERIFY(fixture.next->isEnabled());
+        QVERIFY(!fixture.previous->isEnabled());
+
+        const int before = replacement->value();
+        QTest::mouseClick(fixture.next, Qt::LeftButton);
+        QCOMPARE(replacement->value(), before + replacement->singleStep());
+        QVERIFY(fixture.previous->isEnabled());
+        replacement->setValue(replacement->maximum());
+        QVERIFY(!fixture.next->isEnabled());
+        QTest::mouseClick(fixture.previous, Qt::LeftButton);
+        QCOMPARE(replacement->value(), replacement->maximum() - replacement->singleStep());
+    }
+
     void allRowsVisibleDisablesButtons_data() { directions(); }
 
     void allRowsVisibleDisablesButtons()
@@ -236,6 +271,26 @@ private Q_SLOTS:
         QCOMPARE(fixedWidth ? fixture.previous->width() : fixture.previous->height(), 26);
         // Across the list the buttons span it.
         QCOMPARE(fixedWidth ? fixture.next->height() : fixture.next->width(), 300);
+    }
+
+    // The usual order: the application applies the sheet at start-up, before any list exists.
+    void styleSheetAppliedBeforeConstructionSizesButtons_data() { styleSheetSizesButtons_data(); }
+
+    void styleSheetAppliedBeforeConstructionSizesButtons()
+    {
+        QFETCH(Direction, direction);
+        QFETCH(bool, fixedWidth);
+        qApp->setStyleSheet(ko::qtToolkit::test::toolkitStyleSheet());
+        {
+            Fixture fixture(direction);
+            fixture.widget.resize(300, 300);
+            QTRY_COMPARE(fixedWidth ? fixture.next->width() : fixture.next->height(), 26);
+            QCOMPARE(fixedWidth ? fixture.previous->width() : fixture.previous->height(), 26);
+            // The arrow is drawn: the button is not blank.
+            const QImage image = fixture.next->grab().toImage();
+            QVERIFY(image.pixelColor(image.width() / 2, image.height() / 2) != image.pixelColor(0, 0));
+        }
+        qApp->setStyleSheet(QString());
     }
 
     void destroyingWithRowsCleansUp()

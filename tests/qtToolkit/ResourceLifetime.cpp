@@ -22,6 +22,24 @@ private Q_SLOTS:
         QVERIFY2(library.unload(), qPrintable(library.errorString()));
         QVERIFY(!QFile::exists(styleSheet));
     }
+
+    // The dark sheet lives in a collection of its own, registered and unregistered with the bundle.
+    void darkCollectionFollowsTheLibrary()
+    {
+        const QString darkSheet = QStringLiteral(":/ko/qtToolkit-dark.qss");
+        QVERIFY(!QFile::exists(darkSheet));
+
+        QLibrary library(QStringLiteral(KO_TEST_LIBRARY_FILE));
+        QVERIFY2(library.load(), qPrintable(library.errorString()));
+        QVERIFY(QFile::exists(darkSheet));
+        QVERIFY(QFile::exists(QStringLiteral(":/ko/ic_cross_lightgray_24px.svg")));
+        QVERIFY(QFile::exists(QStringLiteral(":/qtToolkit.qss")));
+
+        QVERIFY2(library.unload(), qPrintable(library.errorString()));
+        QVERIFY(!QFile::exists(darkSheet));
+        QVERIFY(!QFile::exists(QStringLiteral(":/ko")));
+        QVERIFY(!QFile::exists(QStringLiteral(":/qtToolkit.qss")));
+    }
 };
 
 QTEST_APPLESS_MAIN(tst_ResourceLifetime)

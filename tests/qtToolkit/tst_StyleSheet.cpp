@@ -7,7 +7,7 @@
 #include <ko/qtToolkit/widget/ElidedLabel.h>
 #include <ko/qtToolkit/widget/Fader.h>
 #include <ko/qtToolkit/widget/GenericDataFader.h>
-#include <ko/qtToolkit/widget/HeaderViewWidget.h>
+#include <ko/qtToolkit/widget/HeaderViewWidget_p.h>
 #include <ko/qtToolkit/widget/Keypad.h>
 #include <ko/qtToolkit/widget/LevelMeter.h>
 #include <ko/qtToolkit/widget/ListWidget.h>

@@ -8,6 +8,7 @@
 #include <QFont>
 #include <QImage>
 #include <QString>
+#include <QStringList>
 
 namespace ko::qtToolkit::test {
 
@@ -27,13 +28,25 @@ inline void useFixedFont(int pixelSize = 12)
     QApplication::setFont(fixedFont(pixelSize));
 }
 
-/// The library's style sheet as the bundle holds it; empty when it cannot be read.
-inline QString toolkitStyleSheet()
+/// The style sheet at the resource \a path as text; empty when it cannot be read.
+inline QString styleSheetAt(const QString &path)
 {
-    QFile file(QStringLiteral(":/qtToolkit.qss"));
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return {};
     return QString::fromUtf8(file.readAll());
+}
+
+/// The library's style sheet as the bundle holds it; empty when it cannot be read.
+inline QString toolkitStyleSheet()
+{
+    return styleSheetAt(QStringLiteral(":/qtToolkit.qss"));
+}
+
+/// The library's dark style sheet; empty when it cannot be read.
+inline QString darkToolkitStyleSheet()
+{
+    return styleSheetAt(QStringLiteral(":/ko/qtToolkit-dark.qss"));
 }
 
 /// Where tests keep rendered images for a person to look at.
@@ -49,6 +62,35 @@ inline QColor rgbAt(const QImage &image, int x, int y)
 {
     return QColor(image.pixelColor(x, y).rgb());
 }
+
+// Collects the messages logged while it lives, instead of printing them: all of them, or each
+// distinct text once.
+class MessageLog
+{
+public:
+    enum Mode { Every, Distinct };
+
+    explicit MessageLog(Mode mode = Every)
+    {
+        s_mode = mode;
+        s_messages.clear();
+        m_previous = qInstallMessageHandler(&MessageLog::handle);
+    }
+    ~MessageLog() { qInstallMessageHandler(m_previous); }
+
+    QStringList messages() const { return s_messages; }
+
+private:
+    static void handle(QtMsgType, const QMessageLogContext &, const QString &message)
+    {
+        if (s_mode == Every || !s_messages.contains(message))
+            s_messages.append(message);
+    }
+
+    static inline Mode s_mode = Every;
+    static inline QStringList s_messages;
+    QtMessageHandler m_previous;
+};
 
 } // namespace ko::qtToolkit::test
 

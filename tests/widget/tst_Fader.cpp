@@ -11,6 +11,8 @@
 #include <QWindow>
 #include <qpa/qwindowsysteminterface.h>
 
+#include <climits>
+
 using ko::qtToolkit::test::moveHeld;
 using ko::qtToolkit::test::sliderHandleRect;
 using ko::qtToolkit::test::PaintCounter;
@@ -93,6 +95,8 @@ private Q_SLOTS:
     void doubleClickOnHandleGrabs();
     void dragPath_data();
     void dragPath();
+    void dragNearTheIntLimits_data();
+    void dragNearTheIntLimits();
     void singleStepKeptAfterDrag();
     void zeroSingleStepDuringDrag();
     void releaseWithoutGrabSignals();
@@ -361,6 +365,45 @@ void tst_Fader::dragPath()
     QCOMPARE(sliding.at(0).at(0).toBool(), true);
     QCOMPARE(sliding.at(1).at(0).toBool(), false);
     QVERIFY(scene.parent.presses.isEmpty());
+}
+
+// Data faders over unbounded ranges sit at the ends of the int range; a drag past them
+// saturates instead of wrapping round.
+void tst_Fader::dragNearTheIntLimits_data()
+{
+    QTest::addColumn<int>("minimum");
+    QTest::addColumn<int>("maximum");
+    QTest::addColumn<int>("start");
+    QTest::addColumn<Path>("path");
+    QTest::addColumn<Values>("values");
+
+    QTest::newRow("fine, up past the int maximum")
+        << INT_MAX - 1000 << INT_MAX << INT_MAX - 5 << Path{{0, -11}, {0, -200}} << Values{INT_MAX - 5, INT_MAX};
+    QTest::newRow("fine, down past the int minimum")
+        << INT_MIN << INT_MIN + 1000 << INT_MIN + 5 << Path{{0, 11}, {0, 200}} << Values{INT_MIN + 5, INT_MIN};
+    QTest::newRow("coarse, up past the int maximum")
+        << INT_MAX - 1000 << INT_MAX << INT_MAX << Path{{12, 0}, {12, -200}} << Values{INT_MAX, 2147483640};
+    QTest::newRow("coarse, down past the int minimum")
+        << INT_MIN << INT_MIN + 1000 << INT_MIN << Path{{12, 0}, {12, 200}} << Values{INT_MIN, -2147483640};
+}
+
+void tst_Fader::dragNearTheIntLimits()
+{
+    QFETCH(int, minimum);
+    QFETCH(int, maximum);
+    QFETCH(int, start);
+    QFETCH(Path, path);
+    QFETCH(Values, values);
+
+    Scene scene(Qt::Vertical, minimum, maximum, start);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    const QPoint grab = sliderHandleRect(*scene.fader).center();
+    QTest::mousePress(scene.fader, Qt::LeftButton, {}, grab);
+    for (int i = 0; i < path.size(); ++i) {
+        moveHeld(scene.fader, grab + path.at(i));
+        QCOMPARE(scene.fader->value(), values.at(i));
+    }
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, grab + path.constLast());
 }
 
 void tst_Fader::singleStepKeptAfterDrag()

@@ -8,6 +8,8 @@
 #include <QTest>
 
 #include <cfloat>
+#include <climits>
+#include <limits>
 
 using ko::qtToolkit::test::moveHeld;
 using ko::qtToolkit::test::sliderHandleRect;
@@ -71,6 +73,8 @@ private Q_SLOTS:
     void dataBeyondRange_data();
     void dataBeyondRange();
     void dragEmitsData();
+    void unboundedRangePaints();
+    void decimalsBeyondADoubleAreBounded();
     void labels_data();
     void labels();
 };
@@ -126,6 +130,10 @@ void tst_GenericDataFader::dataMapping_data()
     QTest::newRow("one decimal") << 1u << 0.0f << 10.0f << 0 << 100 << 7.79f << 77 << 7.7f;
     QTest::newRow("range ends truncate toward zero") << 1u << -2.55f << 2.55f << -25 << 25 << 2.55f << 25 << 2.5f;
     QTest::newRow("three decimals") << 3u << 0.0f << 1.0f << 0 << 1000 << 0.5f << 500 << 0.5f;
+    QTest::newRow("attenuation to minus infinity saturates at half the int range")
+        << 1u << -std::numeric_limits<float>::infinity() << 0.0f << INT_MIN / 2 << 0 << -6.5f << -65 << -6.5f;
+    QTest::newRow("range beyond the int range saturates at half of it")
+        << 2u << -3e7f << 3e7f << INT_MIN / 2 << INT_MAX / 2 << 1.5f << 150 << 1.5f;
 }
 
 void tst_GenericDataFader::dataMapping()
@@ -256,6 +264,32 @@ void tst_GenericDataFader::dragEmitsData()
     QCOMPARE(data.count(), 1);
     QCOMPARE(data.at(0).at(0).value<float>(), 5.3f);
     QCOMPARE(fader->getData(), 5.3f);
+}
+
+// A range whose slider bounds lie 2^31 apart made the style divide by zero when painting.
+void tst_GenericDataFader::unboundedRangePaints()
+{
+    GenericDataFader fader(Qt::Vertical);
+    fader.setMaximumData(0.0f);
+    fader.setMinimumData(-std::numeric_limits<float>::infinity());
+    fader.setTickPosition(QSlider::TicksBothSides);
+    fader.resize(40, 200);
+    QCOMPARE(qint64(fader.maximum()) - fader.minimum(), qint64(INT_MAX) / 2 + 1);
+    const QImage image = fader.grab().toImage();
+    QCOMPARE(image.size(), fader.size());
+    fader.setStyleSheet(ko::qtToolkit::test::toolkitStyleSheet());
+    QVERIFY(!fader.grab().isNull());
+}
+
+void tst_GenericDataFader::decimalsBeyondADoubleAreBounded()
+{
+    GenericDataFader fader(Qt::Vertical);
+    fader.setNumberOfDecimals(4000000000u);
+    QCOMPARE(fader.getNumberOfDecimals(), 17u);
+    fader.setNumberOfDecimals(17u);
+    QCOMPARE(fader.getNumberOfDecimals(), 17u);
+    fader.setNumberOfDecimals(16u);
+    QCOMPARE(fader.getNumberOfDecimals(), 16u);
 }
 
 void tst_GenericDataFader::labels_data()

@@ -390,6 +390,21 @@ private Q_SLOTS:
         QCOMPARE(keypad.text(), QStringLiteral("-3.14159"));
     }
 
+    // A number formatted with billions of decimals stopped the application; 17 are a double's.
+    void decimalsBeyondADoubleAreBounded()
+    {
+        Keypad keypad;
+        keypad.setMinimumData(0.0f);
+        keypad.setMaximumData(10.0f);
+        keypad.setNumberOfDecimals(2147483647u);
+        QCOMPARE(fader(keypad)->getNumberOfDecimals(), 17u);
+        QString during;
+        connect(&keypad, &Keypad::accepted, this, [&] { during = keypad.text(); });
+        QTest::keyClick(&keypad, Qt::Key_5);
+        QTest::keyClick(&keypad, Qt::Key_Return);
+        QVERIFY2(during.size() - during.indexOf(QLatin1Char('.')) - 1 == 17, qPrintable(during));
+    }
+
     void unparsableTextEntersAsZero()
     {
         Keypad keypad;

@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include <cmath>
+#include <limits>
 
 using ko::qtToolkit::test::artifactPath;
 using ko::qtToolkit::test::PaintCounter;
@@ -101,6 +102,8 @@ private Q_SLOTS:
     void mapValueToPixelsUsesTheFullExtent_data();
     void mapValueToPixelsUsesTheFullExtent();
     void setLevelRange();
+    void nonFiniteRangesAreRefused_data();
+    void nonFiniteRangesAreRefused();
     void setMinimumAndMaximumLevel_data();
     void setMinimumAndMaximumLevel();
     void thresholds_data();
@@ -185,6 +188,8 @@ void tst_LevelMeter::setLevel_data()
     QTest::newRow("minimum") << -60.0f << -60.0f << 0;
     QTest::newRow("fractions truncate") << -59.0f << -59.0f << 1;
     QTest::newRow("zero") << 0.0f << 0.0f << 80;
+    QTest::newRow("not a number shows as the minimum") << std::numeric_limits<float>::quiet_NaN() << -60.0f << 0;
+    QTest::newRow("infinity clamps to the maximum") << std::numeric_limits<float>::infinity() << 15.0f << 100;
 }
 
 void tst_LevelMeter::setLevel()
@@ -293,6 +298,44 @@ void tst_LevelMeter::setLevelRange()
     QCOMPARE(meter.clampLevel(7.0f), -5.0f);
 }
 
+void tst_LevelMeter::nonFiniteRangesAreRefused_data()
+{
+    QTest::addColumn<QString>("setter");
+    QTest::addColumn<float>("value");
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    const float infinity = std::numeric_limits<float>::infinity();
+    QTest::newRow("range from NaN") << QStringLiteral("setLevelRange") << nan;
+    QTest::newRow("range from minus infinity") << QStringLiteral("setLevelRange") << -infinity;
+    QTest::newRow("minimum NaN") << QStringLiteral("setMinimumLevel") << nan;
+    QTest::newRow("minimum minus infinity") << QStringLiteral("setMinimumLevel") << -infinity;
+    QTest::newRow("maximum NaN") << QStringLiteral("setMaximumLevel") << nan;
+    QTest::newRow("maximum infinity") << QStringLiteral("setMaximumLevel") << infinity;
+}
+
+void tst_LevelMeter::nonFiniteRangesAreRefused()
+{
+    QFETCH(QString, setter);
+    QFETCH(float, value);
+
+    LevelMeter meter;
+    makeVertical(meter);
+    meter.setLevel(-20.0f);
+    const QImage before = paint(meter, QStringLiteral("before-refused-range"));
+    QTest::ignoreMessage(QtWarningMsg,
+                         qPrintable(QStringLiteral("LevelMeter::%1: ignoring a level that is not finite").arg(setter)));
+    if (setter == QLatin1String("setLevelRange"))
+        meter.setLevelRange(value, 10.0f);
+    else if (setter == QLatin1String("setMinimumLevel"))
+        meter.setMinimumLevel(value);
+    else
+        meter.setMaximumLevel(value);
+    QCOMPARE(meter.minimumLevel(), -60.0f);
+    QCOMPARE(meter.maximumLevel(), 15.0f);
+    meter.setLevel(-20.0f);
+    QCOMPARE(meter.level(), -20.0f);
+    QCOMPARE(paint(meter, QStringLiteral("after-refused-range")), before);
+}
+
 void tst_LevelMeter::setMinimumAndMaximumLevel_data()
 {
     QTest::addColumn<bool>("setMinimum");
@@ -334,16 +377,19 @@ void tst_LevelMeter::thresholds_data()
     QTest::addColumn<float>("input");
     QTest::addColumn<float>("medium");
     QTest::addColumn<float>("high");
-    QTest::addColumn<int>("refusedStops"); // gradient stops beyond 0 to 1, refused by QGradient
 
-    QTest::newRow("medium above high raises high") << true << 12.0f << 12.0f << 12.0f << 0;
-    QTest::newRow("medium below high") << true << -30.0f << -30.0f << 10.0f << 0;
-    QTest::newRow("medium clamped to the minimum") << true << -100.0f << -60.0f << 10.0f << 0;
-    QTest::newRow("medium clamped to the maximum") << true << 100.0f << 15.0f << 15.0f << 1;
-    QTest::newRow("high below medium lowers medium") << false << -30.0f << -30.0f << -30.0f << 0;
-    QTest::newRow("high above medium") << false << 0.0f << -20.0f << 0.0f << 0;
-    QTest::newRow("high clamped to the maximum") << false << 100.0f << -20.0f << 15.0f << 0;
-    QTest::newRow("high clamped to the minimum") << false << -100.0f << -60.0f << -60.0f << 1;
+    QTest::newRow("medium above high raises high") << true << 12.0f << 12.0f << 12.0f;
+    QTest::newRow("medium below high") << true << -30.0f << -30.0f << 10.0f;
+    QTest::newRow("medium clamped to the minimum") << true << -100.0f << -60.0f << 10.0f;
+    QTest::newRow("medium clamped to the maximum") << true << 100.0f << 15.0f << 15.0f;
+    QTest::newRow("high below medium lowers medium") << false << -30.0f << -30.0f << -30.0f;
+    QTest::newRow("high above medium") << false << 0.0f << -20.0f << 0.0f;
+    QTest::newRow("high clamped to the maximum") << false << 100.0f << -20.0f << 15.0f;
+    QTest::newRow("high clamped to the minimum") << false << -100.0f << -60.0f << -60.0f;
+    QTest::newRow("medium not a number is the minimum") << true << std::numeric_limits<float>::quiet_NaN() << -60.0f
+                                                        << 10.0f;
+    QTest::newRow("high not a number is the minimum") << false << std::numeric_limits<float>::quiet_NaN() << -60.0f
+                                                      << -60.0f;
 }
 
 void tst_LevelMeter::thresholds()
@@ -352,15 +398,21 @@ void tst_LevelMeter::thresholds()
     QFETCH(float, input);
     QFETCH(float, medium);
     QFETCH(float, high);
-    QFETCH(int, refusedStops);
 
-    for (int i = 0; i < refusedStops; ++i)
-        QTest::ignoreMessage(QtWarningMsg, "QGradient::setColorAt: Color position must be specified in the range 0 to 1");
+    // A threshold at an end of the range leaves out the stop beyond it, without a warning.
     LevelMeter meter;
-    if (setMedium)
-        meter.setMediumThresholdLevel(input);
-    else
-        meter.setHighThresholdLevel(input);
+    {
+        const ko::qtToolkit::test::MessageLog log;
+        if (setMedium)
+            meter.setMediumThresholdLevel(input);
+        else
+            meter.setHighThresholdLevel(input);
+        meter.resize(20, 200);
+        meter.setLevelRange(5.0f, 5.0f);
+        meter.setLowColor(Qt::green);
+        QCOMPARE(log.messages(), QStringList());
+    }
+    meter.setLevelRange(-60.0f, 15.0f);
     QCOMPARE(meter.mediumThresholdLevel(), medium);
     QCOMPARE(meter.highThresholdLevel(), high);
     QCOMPARE(meter.minimumLevel(), -60.0f);

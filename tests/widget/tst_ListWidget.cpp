@@ -1,5 +1,7 @@
 #include <ko/qtToolkit/widget/ListWidget.h>
 
+#include <QtWidgets/private/qabstractitemview_p.h>
+
 #include <QPointer>
 #include <QPushButton>
 #include <QRandomGenerator>
@@ -33,6 +35,25 @@ std::unique_ptr<ListWidget> makeList(int rows)
 QAbstractButton *buttonAt(const ListWidget &list, int row)
 {
     return qobject_cast<QAbstractButton *>(list.widget(row));
+}
+
+// The widgets the view keeps as editors of its rows, in either direction of its registry.
+// Qt exports no type information for its private classes, which the undefined-behaviour
+// sanitizer's check of the downcast would need.
+#if defined(__GNUC__)
+__attribute__((no_sanitize("vptr")))
+#endif
+QSet<QWidget *> registeredEditors(QAbstractItemView *view)
+{
+    const auto *viewPrivate = static_cast<QAbstractItemViewPrivate *>(QObjectPrivate::get(view));
+    QSet<QWidget *> editors;
+    for (auto it = viewPrivate->editorIndexHash.cbegin(); it != viewPrivate->editorIndexHash.cend(); ++it)
+        editors.insert(it.key());
+    for (const QEditorInfo &info : viewPrivate->indexEditorHash)
+        editors.insert(info.widget.data());
+    for (QWidget *widget : viewPrivate->persistent)
+        editors.insert(widget);
+    return editors;
 }
 
 void deleteDeferred()
@@ -379,6 +400,59 @@ private Q_SLOTS:
         QVERIFY(buttonAt(*list, 1)->isChecked());
     }
 
+    // Designed: no current row leaves the last button checked. Pressing it, which toggles
+    // nothing in an exclusive group, still makes its row current again.
+    void pressingButtonKeptCheckedMakesItsRowCurrent_data()
+    {
+        QTest::addColumn<bool>("rowWithoutButton");
+        QTest::newRow("after no current row") << false;
+        QTest::newRow("after a row without a button") << true;
+    }
+
+    void pressingButtonKeptCheckedMakesItsRowCurrent()
+    {
+        QFETCH(bool, rowWithoutButton);
+        const auto list = makeList(3);
+        list->show();
+        QVERIFY(QTest::qWaitForWindowExposed(list.get()));
+        list->setCurrentRow(1);
+        if (rowWithoutButton) {
+            delete buttonAt(*list, 2);
+            list->setCurrentRow(2);
+        } else {
+            list->setCurrentRow(-1);
+        }
+        QVERIFY(buttonAt(*list, 1)->isChecked());
+        QSignalSpy currentRows(list.get(), &QListWidget::currentRowChanged);
+        QTest::mouseClick(buttonAt(*list, 1), Qt::LeftButton);
+        QCOMPARE(list->currentRow(), 1);
+        QVERIFY(buttonAt(*list, 1)->isChecked());
+        QCOMPARE(currentRows.count(), 1);
+        QCOMPARE(currentRows.at(0).at(0).toInt(), 1);
+    }
+
+    void buttonOfAnotherListIsRefused()
+    {
+        const auto first = makeList(2);
+        ListWidget second;
+        QAbstractButton *button = buttonAt(*first, 1);
+        QTest::ignoreMessage(QtWarningMsg, "ListWidget::addItem: widget already in another list");
+        second.addItem(button);
+        QCOMPARE(second.count(), 0);
+        QCOMPARE(second.row(button), -1);
+        QCOMPARE(first->row(button), 1);
+        QCOMPARE(button->parentWidget(), first->viewport());
+        // Still the first list's own to remove.
+        QPointer<QAbstractButton> watched(button);
+        first->removeItem(button);
+        QVERIFY(watched.isNull());
+        QCOMPARE(first->count(), 1);
+        // A button taken out of a list may join another.
+        QAbstractButton *taken = first->takeItem(0);
+        second.addItem(taken);
+        QCOMPARE(second.row(taken), 0);
+    }
+
     void clearRemovesAllRows()
     {
         const auto list = makeList(3);
@@ -416,6 +490,30 @@ private Q_SLOTS:
         QPushButton *fresh = makeButton(QStringLiteral("fresh"));
         list->addItem(fresh);
         QCOMPARE(list->row(fresh), 3);
+    }
+
+    // Qt's item view would keep the deleted button as the row's editor and lay it out again.
+    void buttonDeletedByApplicationLeavesNoEditorBehind()
+    {
+        const auto list = makeList(3);
+        list->resize(200, 100);
+        list->show();
+        QVERIFY(QTest::qWaitForWindowExposed(list.get()));
+        QAbstractButton *doomed = buttonAt(*list, 1);
+        delete doomed;
+        QCOMPARE(registeredEditors(list.get()), (QSet<QWidget *>{buttonAt(*list, 0), buttonAt(*list, 2)}));
+
+        // Layouts, scrolling and removals go on over the empty row.
+        list->resize(180, 60);
+        list->scrollToBottom();
+        list->doItemsLayout();
+        QCoreApplication::processEvents();
+        QVERIFY(!list->grab().isNull());
+        QCOMPARE(buttonAt(*list, 2)->parentWidget(), list->viewport());
+        list->removeItem(buttonAt(*list, 0));
+        QCOMPARE(list->count(), 2);
+        list->clear();
+        QCOMPARE(list->count(), 0);
     }
 
     void instrument_data()
@@ -643,10 +741,9 @@ private Q_SLOTS:
                 const int row = random.bounded(count);
                 const int id = model.rows.at(row);
                 QTest::mouseClick(pool.button(id), Qt::LeftButton);
-                if (model.checked != id) {
-                    model.checked = id;
-                    model.current = row;
-                }
+                // Also a button that stayed checked makes its row current again.
+                model.checked = id;
+                model.current = row;
                 break;
             }
             }

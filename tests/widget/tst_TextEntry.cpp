@@ -20,6 +20,26 @@ using ko::qtToolkit::test::KeypadDriver;
 using ko::qtToolkit::test::sharedKeypadDialog;
 using ko::qtToolkit::widget::TextEntry;
 namespace dialog = ko::qtToolkit::dialog;
+
+namespace {
+
+// One decimal, counting how often it repairs a text.
+class CountingValidator : public DoubleValidator
+{
+public:
+    CountingValidator()
+        : DoubleValidator(-100.0, 100.0, 1)
+    {
+    }
+    void fixup(QString &input) const override
+    {
+        ++fixups;
+        DoubleValidator::fixup(input);
+    }
+    mutable int fixups = 0;
+};
+
+} // namespace
 namespace singleton = ko::qtToolkit::singleton;
 namespace widget = ko::qtToolkit::widget;
 
@@ -207,6 +227,8 @@ private Q_SLOTS:
         QTest::newRow("empty") << QString() << QStringLiteral("0.00");
         QTest::newRow("rounded") << QStringLiteral("1.23456") << QStringLiteral("1.23");
         QTest::newRow("comma is not read") << QStringLiteral("1,5") << QStringLiteral("0.00");
+        QTest::newRow("not a number") << QStringLiteral("nan") << QStringLiteral("0.00");
+        QTest::newRow("infinity") << QStringLiteral("-inf") << QStringLiteral("0.00");
     }
 
     void setTextRepairs()
@@ -532,6 +554,33 @@ private Q_SLOTS:
         QVERIFY(!line->hasFocus());
         // Consumed: the entry itself never saw it.
         QVERIFY(!parentKeys.keys.contains(Qt::Key_Escape));
+    }
+
+    // Redrawing the committed text, for a new width or after Escape, commits nothing again: the
+    // validator is not asked, and no signal goes out even to a receiver that blocks nothing.
+    void redrawRunsNoCommit()
+    {
+        Window window;
+        CountingValidator validator;
+        window.entry->setValidator(&validator);
+        window.entry->setText(QStringLiteral("4"));
+        QCOMPARE(validator.fixups, 1);
+        QVERIFY(window.activate());
+        QSignalSpy spy(window.entry, &TextEntry::textChanged);
+
+        window.entry->resize(window.entry->width() + 40, window.entry->height());
+        QCoreApplication::processEvents();
+        QLineEdit *line = lineEdit(*window.entry);
+        QTest::mouseClick(line, Qt::LeftButton);
+        QTRY_VERIFY(line->hasSelectedText());
+        QTest::keyClicks(line, QStringLiteral("9"));
+        QTest::keyClick(line, Qt::Key_Escape);
+
+        QCOMPARE(validator.fixups, 1);
+        QCOMPARE(spy.count(), 0);
+        QCOMPARE(window.entry->text(), QStringLiteral("4.0"));
+        QCOMPARE(line->text(), QStringLiteral("4.0"));
+        window.entry->setValidator(nullptr);
     }
 
     void escapeAfterReturnPassesThrough_data()

@@ -32,10 +32,11 @@ QWidget *createIconGrid()
         auto *icon = new QLabel;
         icon->setPixmap(QIcon(QStringLiteral(":/") + icons.at(i)).pixmap(24, 24));
         icon->setFixedSize(32, 32);
-        // White icons are meant for the dark button gradient.
+        // White icons are meant for the dark button gradient, the others for the light window,
+        // whose colour they keep under the dark sheet too.
         icon->setStyleSheet(icons.at(i).contains(QLatin1String("white"))
                                 ? QStringLiteral("background: #666666;")
-                                : QStringLiteral("background: transparent;"));
+                                : QStringLiteral("background: #efefef;"));
         icon->setToolTip(icons.at(i));
         grid->addWidget(icon, i / columns, i % columns);
     }
@@ -44,7 +45,7 @@ QWidget *createIconGrid()
 
 QWidget *createStandardWidgets()
 {
-    auto *box = new QGroupBox(QStringLiteral("Qt widgets under qtToolkit.qss"));
+    auto *box = new QGroupBox(QStringLiteral("Qt widgets under the style sheet"));
     auto *layout = new QGridLayout(box);
 
     auto *plain = new QPushButton(QStringLiteral("Push button"));

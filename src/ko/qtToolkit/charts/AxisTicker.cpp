@@ -1,15 +1,24 @@
 #include <ko/qtToolkit/charts/AxisTicker.h>
 
 #include "AxisTicker_p.h"
+#include "LabelFormat_p.h"
 
 #include <QtGlobal>
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <limits>
 
 namespace ko::qtToolkit::charts {
+
+class AxisTickerPrivate
+{
+public:
+    int tickCount = 3;
+    double tickOrigin = 0.0;
+    AxisTicker::TickStepStrategy tickStepStrategy = AxisTicker::FineSteps;
+    QByteArray labelFormat{"%.2f"};
+};
 
 namespace {
 
@@ -39,12 +48,10 @@ QVector<double> tickGrid(qint64 first, qint64 last, double step, double origin)
     return ticks;
 }
 
-// What generate() can work with: few enough candidates, strictly ascending and without NaN.
-// Infinities can only stand at the ends and are trimmed away with the range.
+// What generate() can work with: strictly ascending and without NaN. Infinities can only stand
+// at the ends and are trimmed away with the range.
 bool isUsable(const QVector<double> &ticks)
 {
-    if (ticks.size() > tickLimits::maximumTicks)
-        return false;
     if (!ticks.isEmpty() && std::isnan(ticks.first()))
         return false;
     return std::adjacent_find(ticks.cbegin(), ticks.cend(),
@@ -52,82 +59,29 @@ bool isUsable(const QVector<double> &ticks)
         == ticks.cend();
 }
 
-enum class Conversion { None, Floating, Integer, Invalid };
-
-// What QString::asprintf reads with this format: nothing (literal text and "%%"), one double
-// (e, E, f, F, g, G, a, A, with an optional l) or one integer (d, i, u, o, x, X, with an
-// optional l or ll); flags, and a width and a precision of up to three digits each, may precede
-// the conversion. Anything else is invalid. Like asprintf, it stops at the first NUL byte.
-// \a lengthBegin and \a lengthEnd, when given, receive where the length modifier of the
-// conversion stands (an empty span when there is none).
-Conversion conversionOf(const QByteArray &format, int *lengthBegin = nullptr, int *lengthEnd = nullptr)
-{
-    const char *const begin = format.constData();
-    const char *p = begin;
-    const auto skipDigits = [&p] {
-        int digits = 0;
-        for (; *p >= '0' && *p <= '9'; ++p)
-            ++digits;
-        return digits;
-    };
-    Conversion conversion = Conversion::None;
-    while (*p) {
-        if (*p++ != '%')
-            continue;
-        if (*p == '%') {
-            ++p;
-            continue;
-        }
-        if (conversion != Conversion::None)
-            return Conversion::Invalid;
-        while (*p && std::strchr("-+ #0'", *p))
-            ++p;
-        if (skipDigits() > 3)
-            return Conversion::Invalid;
-        if (*p == '.') {
-            ++p;
-            if (skipDigits() > 3)
-                return Conversion::Invalid;
-        }
-        const char *length = p;
-        while (*p == 'l' && p - length < 2)
-            ++p;
-        if (lengthBegin && lengthEnd) {
-            *lengthBegin = int(length - begin);
-            *lengthEnd = int(p - begin);
-        }
-        if (*p && p - length < 2 && std::strchr("eEfFgGaA", *p))
-            conversion = Conversion::Floating;
-        else if (*p && std::strchr("diuoxX", *p))
-            conversion = Conversion::Integer;
-        else
-            return Conversion::Invalid;
-        ++p;
-    }
-    return conversion;
-}
-
-// An integer label shows the value rounded to the nearest whole number (halves away from zero),
-// within 64 bits.
-qlonglong labelInteger(double value)
-{
-    constexpr double limit = 9223372036854775807.0;
-    if (std::isnan(value))
-        return 0;
-    if (value >= limit)
-        return std::numeric_limits<qlonglong>::max();
-    if (value <= -limit)
-        return std::numeric_limits<qlonglong>::min();
-    return std::llround(value);
-}
-
 } // namespace
+
+AxisTicker::AxisTicker()
+    : d(std::make_unique<AxisTickerPrivate>())
+{
+}
+
+AxisTicker::AxisTicker(const AxisTicker &other)
+    : d(std::make_unique<AxisTickerPrivate>(*other.d))
+{
+}
+
+AxisTicker &AxisTicker::operator=(const AxisTicker &other)
+{
+    *d = *other.d;
+    return *this;
+}
 
 AxisTicker::~AxisTicker() = default;
 
 int AxisTicker::tickCount() const
 {
-    return m_tickCount;
+    return d->tickCount;
 }
 
 void AxisTicker::setTickCount(int count)
@@ -136,52 +90,43 @@ void AxisTicker::setTickCount(int count)
         qWarning("tick count must be greater than zero");
         return;
     }
-    m_tickCount = count;
+    d->tickCount = count;
 }
 
 double AxisTicker::tickOrigin() const
 {
-    return m_tickOrigin;
+    return d->tickOrigin;
 }
 
 void AxisTicker::setTickOrigin(double origin)
 {
-    m_tickOrigin = origin;
+    d->tickOrigin = origin;
 }
 
 AxisTicker::TickStepStrategy AxisTicker::tickStepStrategy() const
 {
-    return m_tickStepStrategy;
+    return d->tickStepStrategy;
 }
 
 void AxisTicker::setTickStepStrategy(TickStepStrategy strategy)
 {
-    m_tickStepStrategy = strategy;
+    d->tickStepStrategy = strategy;
 }
 
 void AxisTicker::setLabelFormat(const QString &format)
 {
     // The axis element hands its format over at every layout.
     const QByteArray bytes = format.toUtf8();
-    if (bytes == m_labelFormat)
+    if (bytes == d->labelFormat)
         return;
-    int lengthBegin = 0;
-    int lengthEnd = 0;
-    switch (conversionOf(bytes, &lengthBegin, &lengthEnd)) {
-    case Conversion::Invalid:
+    const LabelFormat checked(bytes);
+    if (!checked.isValid()) {
         qWarning("AxisTicker::setLabelFormat: ignoring \"%s\": a label format takes at most one "
                  "floating-point or integer conversion",
                  bytes.constData());
         return;
-    case Conversion::Integer:
-        // The label passes a 64-bit integer, whatever length the format asked for.
-        m_labelFormat = QByteArray(bytes).replace(lengthBegin, lengthEnd - lengthBegin, "ll");
-        return;
-    case Conversion::None:
-    case Conversion::Floating:
-        m_labelFormat = bytes;
-        return;
     }
+    d->labelFormat = checked.format();
 }
 
 void AxisTicker::generate(double min, double max, QVector<double> &ticks,
@@ -194,6 +139,8 @@ void AxisTicker::generate(double min, double max, QVector<double> &ticks,
     }
     const double step = computeTickStep(min, max);
     ticks = createTicks(step, min, max);
+    // The library's tickers thin their own ticks; this catches a subclass's.
+    ticks = thinnedTicks(ticks);
     if (!isUsable(ticks))
         ticks.clear();
     trimTicks(min, max, ticks, true);
@@ -223,11 +170,11 @@ void AxisTicker::generateLabels(const QVector<double> &ticks, QStringList &label
 
 double AxisTicker::computeTickStep(double min, double max) const
 {
-    const double divisor = m_tickCount + 1e-10;
+    const double divisor = d->tickCount + 1e-10;
     double rawStep = (max - min) / divisor;
     if (std::isinf(rawStep) && std::isfinite(min) && std::isfinite(max))
         rawStep = max / divisor - min / divisor;
-    return cleanMantissa(rawStep, m_tickStepStrategy);
+    return cleanMantissa(rawStep, d->tickStepStrategy);
 }
 
 int AxisTicker::computeSubTickCount(double tickStep) const
@@ -252,15 +199,7 @@ int AxisTicker::computeSubTickCount(double tickStep) const
 
 QString AxisTicker::tickLabel(double value) const
 {
-    // "%.<digit>f" (the default "%.2f" among them) formats exactly as QString::number does, which
-    // saves parsing the format for every label.
-    const char *format = m_labelFormat.constData();
-    if (m_labelFormat.size() == 4 && format[0] == '%' && format[1] == '.' && format[2] >= '0'
-        && format[2] <= '9' && format[3] == 'f')
-        return QString::number(value, 'f', format[2] - '0');
-    if (conversionOf(m_labelFormat) == Conversion::Integer)
-        return QString::asprintf(format, labelInteger(value));
-    return QString::asprintf(format, value);
+    return LabelFormat(d->labelFormat).apply(value);
 }
 
 QVector<double> AxisTicker::createTicks(double tickStep, double min, double max) const
@@ -269,26 +208,36 @@ QVector<double> AxisTicker::createTicks(double tickStep, double min, double max)
         return {};
     // floor and ceil act on the distances, not on the quotients: below a step of 1 this grid
     // reaches further out than needed and generate() trims it.
-    const double first = std::trunc(std::floor(min - m_tickOrigin) / tickStep);
-    const double last = std::trunc(std::ceil(max - m_tickOrigin) / tickStep);
+    const double first = std::trunc(std::floor(min - d->tickOrigin) / tickStep);
+    const double last = std::trunc(std::ceil(max - d->tickOrigin) / tickStep);
     if (fitIndexRange(first, last) && last - first + 3 <= largestFlooredGrid)
-        return tickGrid(qint64(first) - 1, qint64(last) + 1, tickStep, m_tickOrigin);
+        return tickGrid(qint64(first) - 1, qint64(last) + 1, tickStep, d->tickOrigin);
     // Narrow ranges would make that grid large, up to astronomically so. The ticks one step
     // beyond each end are all that trimming keeps of it, so only they are created.
-    const double below = std::floor((min - m_tickOrigin) / tickStep);
-    const double above = std::ceil((max - m_tickOrigin) / tickStep);
-    if (fitIndexRange(below, above) && above - below + 3 <= tickLimits::maximumTicks)
-        return tickGrid(qint64(below) - 1, qint64(above) + 1, tickStep, m_tickOrigin);
-    return {};
+    double below = std::floor((min - d->tickOrigin) / tickStep);
+    double above = std::ceil((max - d->tickOrigin) / tickStep);
+    if (!fitIndexRange(below, above))
+        return {};
+    // More ticks than an axis can show: every stride-th tick of the grid is kept, on multiples of
+    // the stride so that the kept ticks stay put while the range pans.
+    const double stride = thinningStride(above - below + 3);
+    if (stride > 1.0) {
+        below = std::floor(below / stride);
+        above = std::ceil(above / stride);
+        tickStep *= stride;
+    }
+    return tickGrid(qint64(below) - 1, qint64(above) + 1, tickStep, d->tickOrigin);
 }
 
 QVector<double> AxisTicker::createSubTicks(int subTickCount, const QVector<double> &ticks) const
 {
     if (subTickCount < 1 || ticks.size() < 2)
         return {};
-    const qint64 total = qint64(ticks.size() - 1) * subTickCount;
-    if (total > tickLimits::maximumSubTicks)
+    // More sub-ticks than an axis can show: fewer between each pair of ticks, evenly spaced still.
+    subTickCount = int(std::min<qint64>(subTickCount, tickLimits::maximumSubTicks / (ticks.size() - 1)));
+    if (subTickCount < 1)
         return {};
+    const qint64 total = qint64(ticks.size() - 1) * subTickCount;
     QVector<double> subTicks(static_cast<int>(total));
     double *const out = subTicks.data();
     int count = 0;

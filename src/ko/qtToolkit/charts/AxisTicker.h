@@ -8,7 +8,11 @@
 #include <QStringList>
 #include <QVector>
 
+#include <memory>
+
 namespace ko::qtToolkit::charts {
+
+class AxisTickerPrivate;
 
 /**
  * \brief Computes the major ticks, the minor ticks (sub-ticks) and their labels for a value
@@ -29,12 +33,15 @@ namespace ko::qtToolkit::charts {
  * - min > max, or either bound is NaN or infinite;
  * - the tick step is not a positive finite number (a zero-width range for this ticker; the
  *   tickers with their own createTicks() still give the ticks that lie on a zero-width range);
- * - the ticks would be more than 500 (a tick count of a few hundred), or the integer tick
- *   indices would leave the 64-bit range, or the distance between a bound and the tick origin
- *   overflows;
+ * - the integer tick indices would leave the 64-bit range, or the distance between a bound
+ *   and the tick origin overflows;
  * - neighbouring ticks would not be distinct doubles (a step below the resolution of doubles at
  *   the range).
- * createSubTicks() creates no more than 5000 sub-ticks, and none that rounding would put on or
+ * An axis cannot show more than 500 ticks and 5000 sub-ticks, so a setting that asks for more (a tick
+ * count of a few hundred, a custom ticker with thousands of ticks) is thinned to fit instead:
+ * every n-th tick is kept, the smallest n that fits, chosen on the whole series of ticks so that
+ * the kept ones stay put while the range pans; and fewer sub-ticks, still evenly spaced, are
+ * placed between each pair of ticks. createSubTicks() creates none that rounding would put on or
  * beyond one of its two ticks. Wherever none of these limits is reached the results are exactly
  * those described for each step.
  *
@@ -60,7 +67,11 @@ public:
      * \brief Creates a ticker with tick count 3, tick origin 0, FineSteps and label format
      *        "%.2f".
      */
-    AxisTicker() = default;
+    AxisTicker();
+    /// \brief Creates a ticker with the settings of \a other.
+    AxisTicker(const AxisTicker &other);
+    /// \brief Takes over the settings of \a other.
+    AxisTicker &operator=(const AxisTicker &other);
     virtual ~AxisTicker();
 
     /**
@@ -98,7 +109,7 @@ public:
      * \brief Sets the printf-style format of the labels made by tickLabel().
      *
      * The format is kept as UTF-8. It may hold literal text, "%%" and at most one conversion,
-     * with optional flags (-, +, space, #, 0, '), and a width and a precision of up to three
+     * with optional flags (-, +, space, #, 0, '), and a width and a precision of up to two
      * digits each:
      * - a floating-point conversion (e, E, f, F, g, G, a or A, optionally with l) shows the value;
      * - an integer conversion (d, i, u, o, x or X, optionally with l or ll), as a Qt value axis
@@ -106,7 +117,8 @@ public:
      *   within 64 bits.
      *
      * Any other format (for example "%s", "%n", "%*f", "%Lf" or two conversions) would read
-     * arguments that are not there; it is refused with a warning and the previous format is
+     * arguments that are not there, and a wider field or more digits would take far longer to
+     * format than an axis can show; it is refused with a warning and the previous format is
      * kept.
      */
     void setLabelFormat(const QString &format);
@@ -163,9 +175,10 @@ public:
      * and ceil act on the distances and not on the quotients, steps below 1 give more ticks than
      * needed. When that grid would hold more than 64 ticks, or its indices would leave the 64-bit
      * range, only the ticks from one step below \a min to one step above \a max are created,
-     * which gives the same result after trimming; when even those would be more than 500, the
-     * result is empty. A step that is not a positive finite number, min > max and a non-finite
-     * distance between a bound and the origin give an empty result too.
+     * which gives the same result after trimming; when even those would be more than 500, only
+     * every n-th of them is created, j a multiple of n, for the smallest n that fits. A step that
+     * is not a positive finite number, min > max and a non-finite distance between a bound and the
+     * origin give an empty result.
      */
     virtual QVector<double> createTicks(double tickStep, double min, double max) const;
 
@@ -173,8 +186,9 @@ public:
      * \brief The sub-ticks between the neighbouring entries of \a ticks.
      *
      * For each pair (a, b) of neighbours, the values a + k × (b - a) / (\a subTickCount + 1) for
-     * k = 1 .. \a subTickCount, ascending. Empty when \a subTickCount is below 1, when \a ticks
-     * has fewer than two entries or when the result would exceed 5000 sub-ticks. A value that
+     * k = 1 .. \a subTickCount, ascending. Empty when \a subTickCount is below 1 or when \a ticks
+     * has fewer than two entries. Where the result would exceed 5000 sub-ticks, as many per pair
+     * are placed as fit, \a subTickCount being the most. A value that
      * rounding puts on or beyond a or b, or onto the sub-tick before it, is left out.
      */
     virtual QVector<double> createSubTicks(int subTickCount, const QVector<double> &ticks) const;
@@ -219,10 +233,7 @@ public:
     static double pickClosest(double target, const QVector<double> &candidates);
 
 private:
-    int m_tickCount = 3;
-    double m_tickOrigin = 0.0;
-    TickStepStrategy m_tickStepStrategy = FineSteps;
-    QByteArray m_labelFormat{"%.2f"};
+    std::unique_ptr<AxisTickerPrivate> const d;
 };
 
 } // namespace ko::qtToolkit::charts

@@ -1,13 +1,13 @@
-#include <ko/qtToolkit/charts/CartesianChartAxis.h>
+#include <ko/qtToolkit/charts/CartesianChartAxis_p.h>
 
 #include <ko/qtToolkit/charts/AxisTicker.h>
 #include <ko/qtToolkit/charts/ChartHelpers.h>
-#include <ko/qtToolkit/charts/EmptyPolarAxis.h>
-#include <ko/qtToolkit/charts/GraphicsLineItem.h>
-#include <ko/qtToolkit/charts/HorizontalAxis.h>
-#include <ko/qtToolkit/charts/LinearAxis.h>
-#include <ko/qtToolkit/charts/LogarithmicAxis.h>
-#include <ko/qtToolkit/charts/VerticalAxis.h>
+#include <ko/qtToolkit/charts/ChartHelpers_p.h>
+#include <ko/qtToolkit/charts/EmptyPolarAxis_p.h>
+#include <ko/qtToolkit/charts/GraphicsLineItem_p.h>
+#include <ko/qtToolkit/charts/HorizontalAxis_p.h>
+#include <ko/qtToolkit/charts/TickedAxis_p.h>
+#include <ko/qtToolkit/charts/VerticalAxis_p.h>
 
 #include <QGraphicsItemGroup>
 #include <QGraphicsTextItem>
@@ -59,10 +59,75 @@ void setLineColor(const QList<QGraphicsItem *> &items, const QColor &color)
     }
 }
 
+// Between the axis edge and the label box: the tick mark's length for a horizontal axis, a little
+// more for a vertical one.
+constexpr qreal horizontalLabelGap = 4.0;
+constexpr qreal verticalLabelGap = 6.0;
+// Added to the room an axis asks for across it.
+constexpr qreal minimumSizeMargin = 1.0;
+constexpr qreal horizontalPreferredSizeMargin = 1.0;
+constexpr qreal verticalPreferredSizeMargin = 2.0;
+
+// Positions along an axis and across it, for either orientation: x and y for a horizontal axis,
+// y and x for a vertical one. Lengths run along, thicknesses across.
+struct Frame
+{
+    explicit Frame(Qt::Orientation orientation)
+        : horizontal(orientation == Qt::Horizontal)
+    {
+    }
+
+    qreal along(const QPointF &point) const { return horizontal ? point.x() : point.y(); }
+    qreal length(const QSizeF &size) const { return horizontal ? size.width() : size.height(); }
+    qreal thickness(const QSizeF &size) const { return horizontal ? size.height() : size.width(); }
+    qreal start(const QRectF &rect) const { return horizontal ? rect.left() : rect.top(); }
+    qreal end(const QRectF &rect) const { return horizontal ? rect.right() : rect.bottom(); }
+    qreal acrossStart(const QRectF &rect) const { return horizontal ? rect.top() : rect.left(); }
+    qreal acrossEnd(const QRectF &rect) const { return horizontal ? rect.bottom() : rect.right(); }
+    QPointF point(qreal along, qreal across) const
+    {
+        return horizontal ? QPointF(along, across) : QPointF(across, along);
+    }
+    QSizeF size(qreal along, qreal across) const { return horizontal ? QSizeF(along, across) : QSizeF(across, along); }
+    QLineF line(qreal along1, qreal across1, qreal along2, qreal across2) const
+    {
+        return QLineF(point(along1, across1), point(along2, across2));
+    }
+
+    const bool horizontal;
+};
+
+// Where an axis lies beside the plot: its edge towards the plot, its far edge, and the direction
+// away from the plot across the axis (-1 above or left of it, +1 below or right). An axis with
+// an alignment that does not suit the orientation is not placed.
+struct Side
+{
+    bool placed = false;
+    qreal edge = 0.0;
+    qreal farEdge = 0.0;
+    qreal away = 0.0;
+};
+
+Side sideOf(const Frame &frame, const QtCharts::QAbstractAxis &axis, const QRectF &axisRect)
+{
+    const Qt::Alignment alignment = axis.alignment();
+    const Qt::Alignment before = frame.horizontal ? Qt::AlignTop : Qt::AlignLeft;
+    const Qt::Alignment after = frame.horizontal ? Qt::AlignBottom : Qt::AlignRight;
+    const qreal start = frame.acrossStart(axisRect);
+    const qreal end = frame.acrossEnd(axisRect);
+    if (alignment == before)
+        return {true, end, start, -1.0};
+    if (alignment == after)
+        return {true, start, end, 1.0};
+    return {};
+}
+
 } // namespace
 
-CartesianChartAxis::CartesianChartAxis(QtCharts::QAbstractAxis *axis, QGraphicsItem *item)
+CartesianChartAxis::CartesianChartAxis(Qt::Orientation orientation, QtCharts::QAbstractAxis *axis,
+                                       QGraphicsItem *item)
     : ChartAxisElement(axis, item, false)
+    , m_orientation(orientation)
     , m_minorLabelGroup(new QGraphicsItemGroup(item))
 {
     // By signature, so that an axis without minor labels simply has no such signals.
@@ -154,7 +219,7 @@ QVector<qreal> CartesianChartAxis::calculateLayout() const
     QVector<qreal> layout;
     layout.reserve(m_majorTickValues.size());
     for (const qreal value : qAsConst(m_majorTickValues))
-        layout.append(coordToPixel(*axis(), value));
+        layout.append(tickPosition(value));
     return layout;
 }
 
@@ -250,11 +315,31 @@ void CartesianChartAxis::handleGridLineColorChanged(const QColor &color)
 void CartesianChartAxis::updateGeometry()
 {
     setLabels(m_pendingLabels);
-    m_minorLabels = m_pendingMinorLabels;
-}
+    setMinorLabels(m_pendingMinorLabels);
 
-void CartesianChartAxis::layoutTicks(const QSizeF &majorLabelLimit, const QSizeF &minorLabelLimit)
-{
+    const Frame frame(m_orientation);
+    const QRectF axisRect = axisGeometry();
+    const QRectF gridRect = gridGeometry();
+    const Side side = sideOf(frame, *axis(), axisRect);
+    if (side.placed) {
+        auto *axisLine = static_cast<QGraphicsLineItem *>(arrowItems().constFirst());
+        axisLine->setLine(frame.line(frame.start(gridRect), side.edge, frame.end(gridRect), side.edge));
+    }
+
+    // The height for both orientations: a tall, narrow vertical axis does not truncate its
+    // labels to its own width.
+    qreal availableSpace = axisRect.height() - labelPadding();
+    if (isTitleShown())
+        availableSpace = layoutTitle(availableSpace);
+
+    // Each label may take its share of the axis length, less a padding on either side.
+    const auto labelLimit = [&](int tickCount) {
+        const qreal share = tickCount > 0 ? frame.length(axisRect.size()) / tickCount - 2.0 * labelPadding() : 0.0;
+        return frame.size(share, availableSpace);
+    };
+    const QSizeF majorLimit = labelLimit(m_majorTickValues.size());
+    const QSizeF minorLimit = labelLimit(m_minorTickValues.size());
+
     const QList<QGraphicsItem *> grid = gridItems();
     const QList<QGraphicsItem *> arrows = arrowItems();
     const QList<QGraphicsItem *> labelItems = labelGroup()->childItems();
@@ -263,9 +348,8 @@ void CartesianChartAxis::layoutTicks(const QSizeF &majorLabelLimit, const QSizeF
         // The axis line is the first child of the arrow group.
         layoutTick(static_cast<QGraphicsLineItem *>(grid.at(i)), static_cast<QGraphicsLineItem *>(arrows.at(i + 1)),
                    static_cast<QGraphicsTextItem *>(labelItems.at(i)), labelTexts.at(i), m_majorTickValues.at(i),
-                   majorLabelLimit.width(), majorLabelLimit.height());
+                   majorLimit);
     }
-
     const QList<QGraphicsItem *> minorGrid = minorGridItems();
     const QList<QGraphicsItem *> minorArrows = minorArrowItems();
     const QList<QGraphicsItem *> minorLabelItems = this->minorLabelItems();
@@ -273,7 +357,125 @@ void CartesianChartAxis::layoutTicks(const QSizeF &majorLabelLimit, const QSizeF
         layoutTick(static_cast<QGraphicsLineItem *>(minorGrid.at(j)),
                    static_cast<QGraphicsLineItem *>(minorArrows.at(j)),
                    static_cast<QGraphicsTextItem *>(minorLabelItems.at(j)), m_minorLabels.at(j),
-                   m_minorTickValues.at(j), minorLabelLimit.width(), minorLabelLimit.height());
+                   m_minorTickValues.at(j), minorLimit);
+    }
+}
+
+qreal CartesianChartAxis::layoutTitle(qreal availableSpace)
+{
+    const Frame frame(m_orientation);
+    const QRectF axisRect = axisGeometry();
+    const QRectF gridRect = gridGeometry();
+    QGraphicsTextItem *title = titleItem();
+
+    availableSpace -= 2.0 * titlePadding();
+    const qreal titleSpace = availableSpace - labelBoundingRect(QStringLiteral("..."), 0.0).height();
+    // A vertical axis's title reads upwards: it is measured turned, and turned once placed.
+    const qreal angle = frame.horizontal ? 0.0 : 90.0;
+    const QSizeF limit = frame.size(frame.length(gridRect.size()), titleSpace);
+    QRectF titleBoundingRect;
+    title->setHtml(QtCharts::ChartPresenter::truncatedText(axis()->titleFont(), axis()->titleText(), angle,
+                                                           limit.width(), limit.height(), titleBoundingRect));
+    title->setTextWidth(frame.length(titleBoundingRect.size()));
+
+    const QRectF r = title->boundingRect();
+    const Side side = sideOf(frame, *axis(), axisRect);
+    if (side.placed) {
+        // The title's upright box starts titlePadding() inside the far edge of the axis; turning a
+        // vertical title about its middle moves that box by half its length less half its height.
+        const qreal thickness = r.height();
+        const qreal boxStart = side.away < 0.0 ? side.farEdge + titlePadding() : side.farEdge - thickness - titlePadding();
+        const qreal turnOffset = frame.horizontal ? 0.0 : r.width() / 2.0 - r.height() / 2.0;
+        const qreal along = frame.along(gridRect.center()) - frame.along(r.center());
+        title->setPos(frame.point(along, boxStart - turnOffset));
+    }
+    if (!frame.horizontal) {
+        title->setTransformOriginPoint(r.center());
+        title->setRotation(270.0);
+    }
+    return availableSpace - r.height();
+}
+
+void CartesianChartAxis::layoutTick(QGraphicsLineItem *gridItem, QGraphicsLineItem *tickItem,
+                                    QGraphicsTextItem *labelItem, const QString &text, qreal value,
+                                    const QSizeF &labelLimit)
+{
+    const Frame frame(m_orientation);
+    const QRectF gridRect = gridGeometry();
+    const qreal position = tickPosition(value);
+    gridItem->setLine(frame.line(position, frame.acrossStart(gridRect), position, frame.acrossEnd(gridRect)));
+
+    const QRectF labelRect = setLabelText(labelItem, text, labelLimit.width(), labelLimit.height());
+    const QRectF rect = labelItem->boundingRect();
+    const Side side = sideOf(frame, *axis(), axisGeometry());
+    if (!side.placed) {
+        labelItem->setPos(0.0, 0.0);
+        return;
+    }
+    // The label box lies the label gap beyond the axis edge, the part of the item's box that the
+    // truncated text does not fill split evenly on both sides.
+    const qreal gap = frame.horizontal ? horizontalLabelGap : verticalLabelGap;
+    const qreal spare = frame.thickness(rect.size()) - frame.thickness(labelRect.size());
+    const qreal across = side.away < 0.0 ? side.edge - frame.thickness(labelRect.size()) + spare * 0.5 - gap
+                                         : side.edge - spare * 0.5 + gap;
+    const qreal along = position - frame.along(rect.center());
+    // Horizontal tick marks run from the edge outwards, vertical ones left to right.
+    const qreal markEnd = side.edge + side.away * labelPadding();
+    if (frame.horizontal)
+        tickItem->setLine(frame.line(position, side.edge, position, markEnd));
+    else
+        tickItem->setLine(frame.line(position, std::min(side.edge, markEnd), position, std::max(side.edge, markEnd)));
+    // Whole pixels keep the text sharp.
+    labelItem->setPos(frame.point(qRound(along), qRound(across)));
+}
+
+qreal CartesianChartAxis::tickPosition(qreal value) const
+{
+    return boundedPixel(coordToPixel(*axis(), value));
+}
+
+QSizeF CartesianChartAxis::sizeHint(Qt::SizeHint which, const QSizeF &constraint) const
+{
+    Q_UNUSED(constraint)
+    const Frame frame(m_orientation);
+
+    // The title's part: across, its height and the paddings; along, its width.
+    qreal titleAlong = 0.0;
+    qreal titleAcross = 0.0;
+    if (isTitleShown() && (which == Qt::MinimumSize || which == Qt::PreferredSize || which == Qt::MaximumSize)) {
+        const QString text = which == Qt::MinimumSize ? QStringLiteral("...") : axis()->titleText();
+        const QRectF r = QtCharts::ChartPresenter::textBoundingRect(axis()->titleFont(), text, 0.0);
+        titleAcross = r.height() + 2.0 * titlePadding();
+        if (which != Qt::MinimumSize)
+            titleAlong = r.width();
+    }
+
+    const qreal angle = axis()->labelsAngle();
+    switch (which) {
+    case Qt::MinimumSize: {
+        const QRectF r = labelBoundingRect(QStringLiteral("..."), angle);
+        return frame.size(frame.length(r.size()) / 2.0,
+                          frame.thickness(r.size()) + labelPadding() + titleAcross + minimumSizeMargin);
+    }
+    case Qt::PreferredSize: {
+        const QStringList labels = allLabels();
+        qreal thickest = 0.0;
+        qreal firstLength = -1.0;
+        qreal lastLength = titleAlong;
+        for (int i = 0; i < labels.size(); ++i) {
+            const QSizeF size = labelBoundingRect(labels.at(i), angle).size();
+            thickest = std::max(thickest, frame.thickness(size));
+            if (i == 0)
+                firstLength = frame.length(size);
+            lastLength = frame.length(size);
+        }
+        // Half a label may reach beyond the first or last tick; the chart layout reserves it.
+        const qreal margin = frame.horizontal ? horizontalPreferredSizeMargin : verticalPreferredSizeMargin;
+        return frame.size(std::max(lastLength, firstLength) / 2.0,
+                          thickest + labelPadding() + titleAcross + margin);
+    }
+    default:
+        return QSizeF(-1.0, -1.0);
     }
 }
 
@@ -342,33 +544,17 @@ void CartesianChartAxis::dropStaleLabelTexts() const
 void CartesianChartAxis::updateTicks(QVector<qreal> &ticks, QVector<qreal> &subTicks, QStringList &labels,
                                      QStringList &subLabels) const
 {
-    AxisTicker *ticker = nullptr;
-    qreal min = 0.0;
-    qreal max = 0.0;
-    QString format;
-    if (axis()->type() == QtCharts::QAbstractAxis::AxisTypeValue) {
-        if (auto *linear = qobject_cast<LinearAxis *>(axis())) {
-            ticker = linear->ticker();
-            min = linear->min();
-            max = linear->max();
-            format = linear->labelFormat();
-        }
-    } else if (axis()->type() == QtCharts::QAbstractAxis::AxisTypeLogValue) {
-        if (auto *logarithmic = qobject_cast<LogarithmicAxis *>(axis())) {
-            ticker = logarithmic->ticker();
-            min = logarithmic->min();
-            max = logarithmic->max();
-            format = logarithmic->labelFormat();
-        }
-    }
-    if (!ticker) {
+    const TickedAxisState *state = tickedAxisState(*axis());
+    if (!state) {
         ticks.clear();
         subTicks.clear();
         return;
     }
+    AxisTicker *ticker = state->currentTicker;
+    const QString format = state->labelFormat();
     if (!format.isEmpty())
         ticker->setLabelFormat(format);
-    ticker->generate(min, max, ticks, subTicks);
+    ticker->generate(state->minimum(), state->maximum(), ticks, subTicks);
     ticker->generateLabels(ticks, labels);
     ticker->generateLabels(subTicks, subLabels);
 }
@@ -430,26 +616,14 @@ void CartesianChartAxis::deleteMinorItems(int count)
 
 QColor CartesianChartAxis::minorLabelsColor() const
 {
-    if (axis()->type() == QtCharts::QAbstractAxis::AxisTypeValue) {
-        if (const auto *linear = qobject_cast<const LinearAxis *>(axis()))
-            return linear->minorLabelsColor();
-    } else if (axis()->type() == QtCharts::QAbstractAxis::AxisTypeLogValue) {
-        if (const auto *logarithmic = qobject_cast<const LogarithmicAxis *>(axis()))
-            return logarithmic->minorLabelsColor();
-    }
-    return axis()->labelsColor();
+    const TickedAxisState *state = tickedAxisState(*axis());
+    return state ? state->minorLabelsBrush.color() : axis()->labelsColor();
 }
 
 bool CartesianChartAxis::minorLabelsVisible() const
 {
-    if (axis()->type() == QtCharts::QAbstractAxis::AxisTypeValue) {
-        if (const auto *linear = qobject_cast<const LinearAxis *>(axis()))
-            return linear->minorLabelsVisible();
-    } else if (axis()->type() == QtCharts::QAbstractAxis::AxisTypeLogValue) {
-        if (const auto *logarithmic = qobject_cast<const LogarithmicAxis *>(axis()))
-            return logarithmic->minorLabelsVisible();
-    }
-    return false;
+    const TickedAxisState *state = tickedAxisState(*axis());
+    return state && state->minorLabelsVisible;
 }
 
 QtCharts::ChartAxisElement *createAxisElement(QtCharts::QAbstractAxis *axis, QtCharts::QChart::ChartType chartType,

@@ -1,6 +1,8 @@
 #include <ko/qtToolkit/charts/ChartHelpers.h>
 #include <ko/qtToolkit/charts/ChartHelpers_p.h>
 
+#include "LabelFormat_p.h"
+
 #include <QtCharts/QLogValueAxis>
 #include <QtCharts/QValueAxis>
 #include <QtCharts/private/chartaxiselement_p.h>
@@ -8,6 +10,7 @@
 #include <QtCharts/private/qabstractaxis_p.h>
 #include <QtCharts/private/qabstractseries_p.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace ko::qtToolkit::charts {
@@ -73,19 +76,43 @@ bool isHorizontal(const QtCharts::QAbstractAxis &axis)
     return axis.orientation() == Qt::Horizontal;
 }
 
+// Whether a panned or zoomed range [min, max] may be applied: finite and ordered, its ends within
+// (-maximumMagnitude, maximumMagnitude) and its span strictly between minimumSpan and
+// maximumMagnitude. Every comparison is written so that NaN, in the range or in the limits,
+// refuses it.
+bool isAcceptableRange(double min, double max, double minimumSpan, double maximumMagnitude)
+{
+    const double span = std::abs(max - min);
+    return std::isfinite(min) && std::isfinite(max) && min <= max && min > -maximumMagnitude
+        && max < maximumMagnitude && span > minimumSpan && span < maximumMagnitude;
+}
+
 // The distance off the plot rectangle of values that a logarithmic axis cannot place.
 constexpr double outOfDomainDistance = 200.0;
 
 } // namespace
 
+QtCharts::QAbstractAxisPrivate *axisPrivate(const QtCharts::QAbstractAxis &axis)
+{
+    return AxisAccess::privateOf(axis);
+}
+
 QtCharts::ChartAxisElement *axisElement(const QtCharts::QAbstractAxis &axis)
 {
-    return AxisAccess::privateOf(axis)->axisItem();
+    return axisPrivate(axis)->axisItem();
 }
 
 QtCharts::ChartElement *seriesElement(const QtCharts::QAbstractSeries &series)
 {
     return SeriesAccess::privateOf(series)->chartItem();
+}
+
+double boundedPixel(double pixel)
+{
+    constexpr double limit = 1e6;
+    if (std::isnan(pixel))
+        return -limit;
+    return std::clamp(pixel, -limit, limit);
 }
 
 QPair<double, double> logarithmicRangeOffZero(double min, double max)
@@ -210,13 +237,11 @@ void translate(QtCharts::QAbstractAxis &axis, double delta, double lowerBound, d
 
     constexpr double limit = 1e10;
     constexpr double minimumSpan = 1e-10;
-    const double span = std::abs(newMax - newMin);
-    if (!std::isfinite(newMin) || !std::isfinite(newMax) || newMin > newMax || newMin <= -limit
-        || newMax >= limit || span <= minimumSpan || span >= limit) {
+    if (!isAcceptableRange(newMin, newMax, minimumSpan, limit))
         return;
-    }
     // Only a logarithmic axis is held within the bounds: a linear axis may be panned freely.
-    if (range.scale == Scale::Logarithmic && (newMin < lowerBound || newMax > upperBound))
+    // Written so that NaN bounds refuse the pan.
+    if (range.scale == Scale::Logarithmic && !(newMin >= lowerBound && newMax <= upperBound))
         return;
     setRange(axis, range.scale, newMin, newMax);
 }
@@ -237,12 +262,8 @@ void scale(QtCharts::QAbstractAxis &axis, double centre, double factor, double m
         return;
     }
 
-    const double span = std::abs(newMax - newMin);
-    if (!std::isfinite(newMin) || !std::isfinite(newMax) || newMin > newMax
-        || newMin <= -maximumMagnitude || newMax >= maximumMagnitude || span <= minimumSpan
-        || span >= maximumMagnitude) {
+    if (!isAcceptableRange(newMin, newMax, minimumSpan, maximumMagnitude))
         return;
-    }
     if (range.scale == Scale::Logarithmic) {
         const QPair<double, double> offZero = logarithmicRangeOffZero(newMin, newMax);
         newMin = offZero.first;
@@ -259,9 +280,16 @@ QString formatLabel(const QtCharts::QAbstractAxis &axis, double value, const QSt
         format = static_cast<const QtCharts::QValueAxis &>(axis).labelFormat();
     else if (range.scale == Scale::Logarithmic)
         format = static_cast<const QtCharts::QLogValueAxis &>(axis).labelFormat();
-    if (format.isEmpty())
-        format = defaultFormat;
-    return QString::asprintf(format.toUtf8().constData(), value);
+    // The axis's own format is refused at its layout already; here it gives way to the default.
+    LabelFormat checked(format.toUtf8());
+    if (format.isEmpty() || !checked.isValid())
+        checked = LabelFormat(defaultFormat.toUtf8());
+    if (!checked.isValid()) {
+        qWarning("formatLabel: ignoring \"%s\": a label format takes at most one floating-point or "
+                 "integer conversion",
+                 defaultFormat.toUtf8().constData());
+    }
+    return checked.apply(value);
 }
 
 } // namespace ko::qtToolkit::charts

@@ -104,9 +104,10 @@ KO_QTTOOLKIT_EXPORT void scale(QtCharts::QAbstractAxis &axis, double centre, dou
 /**
  * \brief \a value formatted with the label format of \a axis.
  *
- * The format is the axis's labelFormat(), or \a defaultFormat when that is empty or the axis
- * is neither linear nor logarithmic. It is a printf pattern that takes one double, such as
- * "%.2f".
+ * The format is the axis's labelFormat(), or \a defaultFormat when that is empty, when the
+ * axis is neither linear nor logarithmic, or when an axis ticker would refuse it (see
+ * AxisTicker::setLabelFormat()). It is a printf pattern that takes one number, such as "%.2f".
+ * A refused \a defaultFormat gives an empty string and a warning.
  */
 KO_QTTOOLKIT_EXPORT QString formatLabel(const QtCharts::QAbstractAxis &axis, double value,
                                         const QString &defaultFormat);

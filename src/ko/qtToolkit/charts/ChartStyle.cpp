@@ -1,7 +1,6 @@
 #include <ko/qtToolkit/charts/ChartStyle.h>
 
-#include <ko/qtToolkit/charts/LinearAxis.h>
-#include <ko/qtToolkit/charts/LogarithmicAxis.h>
+#include <ko/qtToolkit/charts/TickedAxis_p.h>
 
 #include <QGraphicsLayout>
 #include <QtCharts/QChart>
@@ -44,14 +43,9 @@ void applyTo(QtCharts::QAbstractAxis *axis)
     axis->setMinorGridLineVisible(true);
     axis->setLabelsColor(labels);
 
-    // Only the library's own axes have minor labels.
-    if (axis->type() == QtCharts::QAbstractAxis::AxisTypeValue) {
-        if (auto *linear = qobject_cast<LinearAxis *>(axis))
-            linear->setMinorLabelsColor(minorLabels);
-    } else if (axis->type() == QtCharts::QAbstractAxis::AxisTypeLogValue) {
-        if (auto *logarithmic = qobject_cast<LogarithmicAxis *>(axis))
-            logarithmic->setMinorLabelsColor(minorLabels);
-    }
+    // Only the library's own axes have minor labels; both set them through the same property.
+    if (tickedAxisState(*axis))
+        axis->setProperty("minorLabelsColor", minorLabels);
 
     QFont labelsFont;
     labelsFont.setPixelSize(10);

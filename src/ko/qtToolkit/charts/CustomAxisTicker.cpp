@@ -88,9 +88,7 @@ QVector<double> CustomAxisTicker::createTicks(double, double min, double max) co
     const auto upper = std::upper_bound(lower, ticks.cend(), max);
     const auto start = lower == ticks.cbegin() ? lower : lower - 1;
     const auto stop = upper == ticks.cend() ? upper : upper + 1;
-    if (stop - start > tickLimits::maximumTicks)
-        return {};
-    return QVector<double>(start, stop);
+    return thinnedTicks(QVector<double>(start, stop), start - ticks.cbegin());
 }
 
 } // namespace ko::qtToolkit::charts

@@ -19,7 +19,8 @@ class CustomAxisTickerPrivate;
  * previous + k × (next - previous) / (subTickCount() + 1). The tick count, origin, step strategy
  * and label format of AxisTicker are not used. Nothing removes ticks or labels.
  *
- * A range holding more than 500 ticks yields none; the other limits of AxisTicker apply as well.
+ * A range holding more than 500 ticks shows every n-th of the ticks added, counted from the
+ * smallest, for the smallest n that fits; the other limits of AxisTicker apply as well.
  */
 class KO_QTTOOLKIT_EXPORT CustomAxisTicker : public AxisTicker
 {
@@ -77,8 +78,9 @@ public:
      * \brief The ticks within [\a min, \a max], ascending, with the nearest tick below \a min and
      *        the nearest above \a max where they exist; \a tickStep is ignored.
      *
-     * Empty when min > max, when either bound is NaN or when the result would hold more than 500
-     * ticks.
+     * Empty when min > max or when either bound is NaN. When the result would hold more than 500
+     * ticks, only the ticks whose place in the whole ascending set is a multiple of the smallest
+     * n that fits are kept, with the first and the last as outliers.
      */
     QVector<double> createTicks(double tickStep, double min, double max) const override;
 

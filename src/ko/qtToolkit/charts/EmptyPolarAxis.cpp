@@ -1,4 +1,4 @@
-#include <ko/qtToolkit/charts/EmptyPolarAxis.h>
+#include <ko/qtToolkit/charts/EmptyPolarAxis_p.h>
 
 #include <limits>
 

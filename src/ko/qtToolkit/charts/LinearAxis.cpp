@@ -1,12 +1,12 @@
 #include <ko/qtToolkit/charts/LinearAxis.h>
 
-#include <ko/qtToolkit/charts/TickedAxisPrivate.h>
+#include <ko/qtToolkit/charts/TickedAxis_p.h>
 
 #include <QtCharts/private/qvalueaxis_p.h>
 
 namespace ko::qtToolkit::charts {
 
-class LinearAxisPrivate : public TickedAxisPrivate<QtCharts::QValueAxisPrivate>
+class LinearAxisPrivate : public TickedAxisPrivate<QtCharts::QValueAxisPrivate, QtCharts::QValueAxis>
 {
 public:
     using TickedAxisPrivate::TickedAxisPrivate;

@@ -1,12 +1,12 @@
 #include <ko/qtToolkit/charts/LogarithmicAxis.h>
 
-#include <ko/qtToolkit/charts/TickedAxisPrivate.h>
+#include <ko/qtToolkit/charts/TickedAxis_p.h>
 
 #include <QtCharts/private/qlogvalueaxis_p.h>
 
 namespace ko::qtToolkit::charts {
 
-class LogarithmicAxisPrivate : public TickedAxisPrivate<QtCharts::QLogValueAxisPrivate>
+class LogarithmicAxisPrivate : public TickedAxisPrivate<QtCharts::QLogValueAxisPrivate, QtCharts::QLogValueAxis>
 {
 public:
     using TickedAxisPrivate::TickedAxisPrivate;

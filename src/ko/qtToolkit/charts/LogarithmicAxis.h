@@ -12,16 +12,12 @@ class AxisTicker;
 class LogarithmicAxisPrivate;
 
 /**
- * \brief A logarithmic value axis whose ticks, minor ticks and labels come from an exchangeable ticker, with
- *        a label at every minor tick.
+ * \brief The logarithmic counterpart of LinearAxis: a logarithmic value axis whose ticks, minor
+ *        ticks and labels come from an exchangeable ticker, with a label at every minor tick.
  *
- * Add it to a QChart like any Qt Charts axis. At every layout pass its drawing element passes
- * a non-empty labelFormat() to the ticker, asks it for the major and minor ticks within
- * [min(), max()] and their labels, and draws a tick mark, grid line and label for each. The
- * minor labels have a visibility and a colour of their own. Axis shades are not drawn. On a
- * polar chart the axis is not drawn at all.
- *
- * Without a ticker of its own the axis uses a default-constructed AxisTicker.
+ * Everything LinearAxis says of its ticker, minor labels and drawing holds for this axis too.
+ * Its default ticker is a plain AxisTicker; set a LogarithmicAxisTicker for ticks at the powers
+ * of a base.
  */
 class KO_QTTOOLKIT_EXPORT LogarithmicAxis : public QtCharts::QLogValueAxis
 {
@@ -35,31 +31,23 @@ public:
     /// Does not delete a ticker set with setTicker().
     ~LogarithmicAxis() override;
 
-    /**
-     * \brief Makes \a ticker compute the ticks and labels from the next layout pass on.
-     *
-     * The axis does not take ownership: \a ticker must outlive the axis, or be replaced before
-     * it is deleted. A null \a ticker selects the axis's default ticker again. Does not
-     * request a layout pass.
-     */
+    /// \copydoc LinearAxis::setTicker()
     void setTicker(AxisTicker *ticker);
-    /// The ticker in use; never null.
+    /// \copydoc LinearAxis::ticker()
     AxisTicker *ticker() const;
-
-    /// Whether labels are shown at the minor ticks; true by default.
+    /// \copydoc LinearAxis::minorLabelsVisible()
     bool minorLabelsVisible() const;
-    /// Shows or hides the minor labels; they stay hidden while the axis is hidden.
+    /// \copydoc LinearAxis::setMinorLabelsVisible()
     void setMinorLabelsVisible(bool visible);
-
-    /// The colour of the minor labels; by default that of Qt Charts' default brush.
+    /// \copydoc LinearAxis::minorLabelsColor()
     QColor minorLabelsColor() const;
-    /// Gives the minor labels, shown ones included, the colour \a color.
+    /// \copydoc LinearAxis::setMinorLabelsColor()
     void setMinorLabelsColor(const QColor &color);
 
 Q_SIGNALS:
-    /// The minor labels were shown or hidden.
+    /// \copydoc LinearAxis::minorLabelsVisibleChanged()
     void minorLabelsVisibleChanged(bool visible);
-    /// The minor labels got another colour.
+    /// \copydoc LinearAxis::minorLabelsColorChanged()
     void minorLabelsColorChanged(const QColor &color);
 
 private:

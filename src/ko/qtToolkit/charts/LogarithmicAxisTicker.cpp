@@ -10,11 +10,37 @@
 
 namespace ko::qtToolkit::charts {
 
+class LogarithmicAxisTickerPrivate
+{
+public:
+    double base = 10.0;
+    double logBaseFactor = 0.43429448190325176; // 1 / ln(base)
+    int subTickCount = 8;
+};
+
+LogarithmicAxisTicker::LogarithmicAxisTicker()
+    : d(std::make_unique<LogarithmicAxisTickerPrivate>())
+{
+}
+
+LogarithmicAxisTicker::LogarithmicAxisTicker(const LogarithmicAxisTicker &other)
+    : AxisTicker(other)
+    , d(std::make_unique<LogarithmicAxisTickerPrivate>(*other.d))
+{
+}
+
+LogarithmicAxisTicker &LogarithmicAxisTicker::operator=(const LogarithmicAxisTicker &other)
+{
+    AxisTicker::operator=(other);
+    *d = *other.d;
+    return *this;
+}
+
 LogarithmicAxisTicker::~LogarithmicAxisTicker() = default;
 
 double LogarithmicAxisTicker::base() const
 {
-    return m_base;
+    return d->base;
 }
 
 void LogarithmicAxisTicker::setBase(double base)
@@ -23,15 +49,15 @@ void LogarithmicAxisTicker::setBase(double base)
         qWarning("log base has to be greater than zero");
         return;
     }
-    m_base = base;
+    d->base = base;
     // Base 1 is accepted; its factor is infinite (and yields no ticks).
     const double logBase = std::log(base);
-    m_logBaseFactor = logBase == 0.0 ? std::numeric_limits<double>::infinity() : 1.0 / logBase;
+    d->logBaseFactor = logBase == 0.0 ? std::numeric_limits<double>::infinity() : 1.0 / logBase;
 }
 
 int LogarithmicAxisTicker::subTickCount() const
 {
-    return m_subTickCount;
+    return d->subTickCount;
 }
 
 void LogarithmicAxisTicker::setSubTickCount(int count)
@@ -40,7 +66,7 @@ void LogarithmicAxisTicker::setSubTickCount(int count)
         qWarning("sub tick count can't be negative");
         return;
     }
-    m_subTickCount = count;
+    d->subTickCount = count;
 }
 
 double LogarithmicAxisTicker::computeTickStep(double, double) const
@@ -50,7 +76,7 @@ double LogarithmicAxisTicker::computeTickStep(double, double) const
 
 int LogarithmicAxisTicker::computeSubTickCount(double) const
 {
-    return m_subTickCount;
+    return d->subTickCount;
 }
 
 QVector<double> LogarithmicAxisTicker::createTicks(double, double min, double max) const
@@ -66,11 +92,17 @@ QVector<double> LogarithmicAxisTicker::createTicks(double, double min, double ma
     double logRatio = std::log(farthest / nearest);
     if (std::isinf(logRatio)) // the quotient left the double range
         logRatio = std::log(farthest) - std::log(nearest);
-    const double decades = logRatio * m_logBaseFactor;
+    const double decades = logRatio * d->logBaseFactor;
     const double exponentStep =
         std::trunc(cleanMantissa(decades / (tickCount() + 1e-10), tickStepStrategy()));
     // The comparison also turns NaN (from a base of 1 or below) into a step of 1.
-    const double factor = std::pow(m_base, exponentStep >= 2.0 ? exponentStep : 1.0);
+    double powerStep = exponentStep >= 2.0 ? exponentStep : 1.0;
+    // More powers than an axis can show: every stride-th is kept, the powers of a larger factor,
+    // so that the kept ones stay put while the range pans.
+    const double powers = logRatio / (powerStep * std::log(d->base)) + 3.0;
+    if (powers > tickLimits::maximumTicks)
+        powerStep *= thinningStride(powers);
+    const double factor = std::pow(d->base, powerStep);
     if (!(factor > 1.0) || std::isinf(factor))
         return {};
     const double logFactor = std::log(factor);

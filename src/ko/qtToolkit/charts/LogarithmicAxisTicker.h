@@ -3,7 +3,11 @@
 
 #include <ko/qtToolkit/charts/AxisTicker.h>
 
+#include <memory>
+
 namespace ko::qtToolkit::charts {
+
+class LogarithmicAxisTickerPrivate;
 
 /**
  * \brief A ticker that places the major ticks at integer powers of a base, or of a power of the
@@ -28,7 +32,11 @@ public:
     /**
      * \brief Creates a ticker for base 10 with 8 sub-ticks between two major ticks.
      */
-    LogarithmicAxisTicker() = default;
+    LogarithmicAxisTicker();
+    /// \brief Creates a ticker with the settings of \a other.
+    LogarithmicAxisTicker(const LogarithmicAxisTicker &other);
+    /// \brief Takes over the settings of \a other.
+    LogarithmicAxisTicker &operator=(const LogarithmicAxisTicker &other);
     ~LogarithmicAxisTicker() override;
 
     /**
@@ -72,14 +80,13 @@ public:
      * to the first one not below \a max; for a range below zero, the negated powers from the one
      * at or below \a min to the first one at or above \a max. Empty, with the warning, for a
      * range touching or crossing zero; empty, silently, when base^n is not a finite number
-     * greater than 1 or the ticks would be more than 500.
+     * greater than 1. When the ticks would be more than 500, n is multiplied by the smallest
+     * factor that makes them fit.
      */
     QVector<double> createTicks(double tickStep, double min, double max) const override;
 
 private:
-    double m_base = 10.0;
-    double m_logBaseFactor = 0.43429448190325176; // 1 / ln(m_base)
-    int m_subTickCount = 8;
+    std::unique_ptr<LogarithmicAxisTickerPrivate> const d;
 };
 
 } // namespace ko::qtToolkit::charts

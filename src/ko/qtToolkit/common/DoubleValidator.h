@@ -21,11 +21,19 @@ class KO_QTTOOLKIT_EXPORT DoubleValidator : public QDoubleValidator
 
 public:
     /**
-     * \brief The constructors of QDoubleValidator: (parent) and (bottom, top, decimals, parent).
-     *
-     * The parent, when given, owns the validator.
+     * \brief A validator with QDoubleValidator's defaults: any value, 1000 decimals.
+     * \param parent the owner of the validator, or null
      */
-    using QDoubleValidator::QDoubleValidator;
+    explicit DoubleValidator(QObject *parent = nullptr);
+
+    /**
+     * \brief A validator for the range [\a bottom, \a top] with at most \a decimals digits
+     *        after the decimal point, as QDoubleValidator's.
+     * \param parent the owner of the validator, or null
+     */
+    DoubleValidator(double bottom, double top, int decimals, QObject *parent = nullptr);
+
+    ~DoubleValidator() override;
 
     /**
      * \brief Checks \a input; \a pos is neither read nor changed.
@@ -42,8 +50,12 @@ public:
      * \brief Replaces \a input by its value clamped to [bottom(), top()], in fixed-point notation
      *        with exactly decimals() digits after the point.
      *
-     * The text is read with a full stop as decimal point; text that is not a number counts as 0.
-     * When bottom() is greater than top(), bottom() wins.
+     * The text is read with a full stop as decimal point; text that is not a finite number
+     * ("nan" and "inf" among them) counts as 0. When bottom() is greater than top(), bottom()
+     * wins. When rounding to the decimals would carry the value out of the range (0.004 with two
+     * decimals would show as 0.00 below a bottom of 0.004), the nearest value with those decimals
+     * inside the range is written instead (0.01). At most 17 decimals are written, the digits a
+     * double holds.
      */
     void fixup(QString &input) const override;
 };

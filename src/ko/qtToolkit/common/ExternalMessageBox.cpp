@@ -2,6 +2,8 @@
 
 namespace ko::qtToolkit::common {
 
+ExternalMessageBox::ExternalMessageBox() = default;
+
 // Defined here so that the interface's type information lives in the library.
 ExternalMessageBox::~ExternalMessageBox() = default;
 

@@ -39,6 +39,10 @@ public:
 
     /// \brief Virtual, so that an implementation can be deleted through this interface.
     virtual ~ExternalMessageBox();
+
+protected:
+    /// \brief For implementations; the interface holds nothing.
+    ExternalMessageBox();
 };
 
 } // namespace ko::qtToolkit::common

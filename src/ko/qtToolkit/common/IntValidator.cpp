@@ -4,6 +4,18 @@
 
 namespace ko::qtToolkit::common {
 
+IntValidator::IntValidator(QObject *parent)
+    : QIntValidator(parent)
+{
+}
+
+IntValidator::IntValidator(int bottom, int top, QObject *parent)
+    : QIntValidator(bottom, top, parent)
+{
+}
+
+IntValidator::~IntValidator() = default;
+
 void IntValidator::fixup(QString &input) const
 {
     bool ok = false;

@@ -19,11 +19,18 @@ class KO_QTTOOLKIT_EXPORT IntValidator : public QIntValidator
 
 public:
     /**
-     * \brief The constructors of QIntValidator: (parent) and (bottom, top, parent).
-     *
-     * The parent, when given, owns the validator.
+     * \brief A validator accepting any int, as QIntValidator's.
+     * \param parent the owner of the validator, or null
      */
-    using QIntValidator::QIntValidator;
+    explicit IntValidator(QObject *parent = nullptr);
+
+    /**
+     * \brief A validator for the range [\a bottom, \a top], as QIntValidator's.
+     * \param parent the owner of the validator, or null
+     */
+    IntValidator(int bottom, int top, QObject *parent = nullptr);
+
+    ~IntValidator() override;
 
     /**
      * \brief Replaces \a input by its value clamped to [bottom(), top()].

@@ -4,7 +4,18 @@
 
 namespace ko::qtToolkit::singleton {
 
-ExternalMessageBox::ExternalMessageBox() = default;
+class ExternalMessageBoxPrivate
+{
+public:
+    const common::ExternalMessageBox *implementation = nullptr;
+};
+
+ExternalMessageBox::ExternalMessageBox()
+    : d(std::make_unique<ExternalMessageBoxPrivate>())
+{
+}
+
+ExternalMessageBox::~ExternalMessageBox() = default;
 
 ExternalMessageBox *ExternalMessageBox::instance()
 {
@@ -14,24 +25,24 @@ ExternalMessageBox *ExternalMessageBox::instance()
 
 void ExternalMessageBox::setImplementation(const common::ExternalMessageBox *implementation)
 {
-    m_implementation = implementation;
+    d->implementation = implementation;
 }
 
 const common::ExternalMessageBox *ExternalMessageBox::implementation() const
 {
-    return m_implementation;
+    return d->implementation;
 }
 
 int ExternalMessageBox::confirm(QWidget &source, const QString &title, const QString &message,
                                 QMessageBox::Icon icon) const
 {
-    return m_implementation ? m_implementation->confirm(source, title, message, icon) : 0;
+    return d->implementation ? d->implementation->confirm(source, title, message, icon) : 0;
 }
 
 int ExternalMessageBox::information(QWidget &source, const QString &title, const QString &message,
                                     QMessageBox::Icon icon) const
 {
-    return m_implementation ? m_implementation->information(source, title, message, icon) : 0;
+    return d->implementation ? d->implementation->information(source, title, message, icon) : 0;
 }
 
 } // namespace ko::qtToolkit::singleton

@@ -7,6 +7,8 @@
 #include <QObject>
 #include <QString>
 
+#include <memory>
+
 class QWidget;
 
 namespace ko::qtToolkit::common {
@@ -14,6 +16,8 @@ class ExternalMessageBox;
 }
 
 namespace ko::qtToolkit::singleton {
+
+class ExternalMessageBoxPrivate;
 
 /**
  * \brief The application-wide entry point for message boxes.
@@ -29,6 +33,8 @@ class KO_QTTOOLKIT_EXPORT ExternalMessageBox : public QObject
 public:
     /// \brief The one instance, created on the first call.
     static ExternalMessageBox *instance();
+
+    ~ExternalMessageBox() override;
 
     /**
      * \brief Registers \a implementation, replacing any earlier one; null unregisters.
@@ -57,7 +63,7 @@ public:
 private:
     ExternalMessageBox();
 
-    const common::ExternalMessageBox *m_implementation = nullptr;
+    std::unique_ptr<ExternalMessageBoxPrivate> const d;
 };
 
 } // namespace ko::qtToolkit::singleton

@@ -2,7 +2,18 @@
 
 namespace ko::qtToolkit::singleton {
 
-Keypad::Keypad() = default;
+class KeypadPrivate
+{
+public:
+    dialog::Keypad keypad;
+};
+
+Keypad::Keypad()
+    : d(std::make_unique<KeypadPrivate>())
+{
+}
+
+Keypad::~Keypad() = default;
 
 Keypad *Keypad::instance()
 {
@@ -12,37 +23,37 @@ Keypad *Keypad::instance()
 
 int Keypad::exec()
 {
-    return m_dialog.exec();
+    return d->keypad.exec();
 }
 
 void Keypad::setText(const QString &text)
 {
-    m_dialog.setText(text);
+    d->keypad.setText(text);
 }
 
 QString Keypad::text() const
 {
-    return m_dialog.text();
+    return d->keypad.text();
 }
 
 void Keypad::setDynamicWidget(widget::TextEntry *entry)
 {
-    m_dialog.setDynamicWidget(entry);
+    d->keypad.setDynamicWidget(entry);
 }
 
 widget::TextEntry *Keypad::dynamicWidget() const
 {
-    return m_dialog.dynamicWidget();
+    return d->keypad.dynamicWidget();
 }
 
 void Keypad::setConstrainedRect(const QRect &rect)
 {
-    m_dialog.setConstrainedRect(rect);
+    d->keypad.setConstrainedRect(rect);
 }
 
 QRect Keypad::constrainedRect() const
 {
-    return m_dialog.constrainedRect();
+    return d->keypad.constrainedRect();
 }
 
 } // namespace ko::qtToolkit::singleton

@@ -8,11 +8,15 @@
 #include <QRect>
 #include <QString>
 
+#include <memory>
+
 namespace ko::qtToolkit::widget {
 class TextEntry;
 }
 
 namespace ko::qtToolkit::singleton {
+
+class KeypadPrivate;
 
 /**
  * \brief The keypad dialog that every numeric widget::TextEntry opens.
@@ -29,6 +33,8 @@ class KO_QTTOOLKIT_EXPORT Keypad : public QObject
 public:
     /// \brief The one instance, created on the first call.
     static Keypad *instance();
+
+    ~Keypad() override;
 
     /// \brief Runs the dialog modally; returns QDialog::Accepted or QDialog::Rejected.
     int exec();
@@ -55,7 +61,7 @@ public:
 private:
     Keypad();
 
-    dialog::Keypad m_dialog;
+    std::unique_ptr<KeypadPrivate> const d;
 };
 
 } // namespace ko::qtToolkit::singleton

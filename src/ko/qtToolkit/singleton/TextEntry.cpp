@@ -2,7 +2,18 @@
 
 namespace ko::qtToolkit::singleton {
 
-TextEntry::TextEntry() = default;
+class TextEntryPrivate
+{
+public:
+    bool useKeypad = false;
+};
+
+TextEntry::TextEntry()
+    : d(std::make_unique<TextEntryPrivate>())
+{
+}
+
+TextEntry::~TextEntry() = default;
 
 TextEntry *TextEntry::instance()
 {
@@ -12,15 +23,15 @@ TextEntry *TextEntry::instance()
 
 bool TextEntry::useKeypad() const
 {
-    return m_useKeypad;
+    return d->useKeypad;
 }
 
 void TextEntry::setUseKeypad(bool useKeypad)
 {
-    if (m_useKeypad == useKeypad)
+    if (d->useKeypad == useKeypad)
         return;
-    m_useKeypad = useKeypad;
-    Q_EMIT useKeypadChanged(m_useKeypad);
+    d->useKeypad = useKeypad;
+    Q_EMIT useKeypadChanged(d->useKeypad);
 }
 
 } // namespace ko::qtToolkit::singleton

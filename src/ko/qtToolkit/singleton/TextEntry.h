@@ -5,7 +5,11 @@
 
 #include <QObject>
 
+#include <memory>
+
 namespace ko::qtToolkit::singleton {
+
+class TextEntryPrivate;
 
 /**
  * \brief The application-wide settings of widget::TextEntry.
@@ -19,6 +23,8 @@ class KO_QTTOOLKIT_EXPORT TextEntry : public QObject
 public:
     /// \brief The one instance, created on the first call.
     static TextEntry *instance();
+
+    ~TextEntry() override;
 
     /**
      * \brief Whether numeric entries open the keypad (singleton::Keypad) when they get focus;
@@ -36,7 +42,7 @@ Q_SIGNALS:
 private:
     TextEntry();
 
-    bool m_useKeypad = false;
+    std::unique_ptr<TextEntryPrivate> const d;
 };
 
 } // namespace ko::qtToolkit::singleton

@@ -18,4 +18,6 @@ Button::Button(const QIcon &icon, const QString &text, QWidget *parent)
     setFocusPolicy(Qt::NoFocus);
 }
 
+Button::~Button() = default;
+
 } // namespace ko::qtToolkit::widget

@@ -33,6 +33,8 @@ public:
      * \param parent the owner of the button, or null
      */
     Button(const QIcon &icon, const QString &text, QWidget *parent = nullptr);
+
+    ~Button() override;
 };
 
 } // namespace ko::qtToolkit::widget

@@ -8,17 +8,45 @@
 
 namespace ko::qtToolkit::widget {
 
+class ElidedButtonPrivate
+{
+public:
+    int cachedWidth = -1;
+    QString sourceText;
+    QString elidedText;
+};
+
+ElidedButton::ElidedButton(QWidget *parent)
+    : Button(parent)
+    , d(std::make_unique<ElidedButtonPrivate>())
+{
+}
+
+ElidedButton::ElidedButton(const QString &text, QWidget *parent)
+    : Button(text, parent)
+    , d(std::make_unique<ElidedButtonPrivate>())
+{
+}
+
+ElidedButton::ElidedButton(const QIcon &icon, const QString &text, QWidget *parent)
+    : Button(icon, text, parent)
+    , d(std::make_unique<ElidedButtonPrivate>())
+{
+}
+
+ElidedButton::~ElidedButton() = default;
+
 void ElidedButton::updateElidedText()
 {
-    if (width() == m_cachedWidth && text() == m_sourceText)
+    if (width() == d->cachedWidth && text() == d->sourceText)
         return;
-    m_cachedWidth = width();
-    m_sourceText = text();
+    d->cachedWidth = width();
+    d->sourceText = text();
 
     QStyleOptionButton option;
     option.initFrom(this);
     const QRect contents = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
-    m_elidedText = QFontMetrics(font()).elidedText(m_sourceText, Qt::ElideRight,
+    d->elidedText = QFontMetrics(font()).elidedText(d->sourceText, Qt::ElideRight,
                                                    contents.width() - iconSize().width() - 4, Qt::TextShowMnemonic);
 }
 
@@ -42,7 +70,7 @@ void ElidedButton::paintEvent(QPaintEvent *)
     // The label: the shortened caption inside the contents, 2 pixels in from either side.
     initStyleOption(&option);
     const QRect contents = style->subElementRect(QStyle::SE_PushButtonContents, &option, this);
-    option.text = m_elidedText;
+    option.text = d->elidedText;
     option.rect = contents.adjusted(2, 0, -2, 0);
     style->drawControl(QStyle::CE_PushButtonLabel, &option, &painter, this);
 }

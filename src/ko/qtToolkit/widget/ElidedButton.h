@@ -4,7 +4,11 @@
 #include <ko/qtToolkit/qtToolkit_export.h>
 #include <ko/qtToolkit/widget/Button.h>
 
+#include <memory>
+
 namespace ko::qtToolkit::widget {
+
+class ElidedButtonPrivate;
 
 /**
  * \brief A focus-less push button whose caption is cut at the right to fit its width.
@@ -24,28 +28,20 @@ public:
      * \brief A button without icon and text.
      * \param parent the owner of the button, or null
      */
-    explicit ElidedButton(QWidget *parent = nullptr)
-        : Button(parent)
-    {
-    }
+    explicit ElidedButton(QWidget *parent = nullptr);
 
     /**
      * \brief A button captioned \a text.
      * \param parent the owner of the button, or null
      */
-    explicit ElidedButton(const QString &text, QWidget *parent = nullptr)
-        : Button(text, parent)
-    {
-    }
+    explicit ElidedButton(const QString &text, QWidget *parent = nullptr);
 
     /**
      * \brief A button showing \a icon and \a text.
      * \param parent the owner of the button, or null
      */
-    ElidedButton(const QIcon &icon, const QString &text, QWidget *parent = nullptr)
-        : Button(icon, text, parent)
-    {
-    }
+    ElidedButton(const QIcon &icon, const QString &text, QWidget *parent = nullptr);
+    ~ElidedButton() override;
 
     /**
      * \brief Recomputes the painted caption when the width or the text changed since last time.
@@ -57,9 +53,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    int m_cachedWidth = -1;
-    QString m_sourceText;
-    QString m_elidedText;
+    std::unique_ptr<ElidedButtonPrivate> const d;
 };
 
 } // namespace ko::qtToolkit::widget

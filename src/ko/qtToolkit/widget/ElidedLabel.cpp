@@ -4,43 +4,65 @@
 
 namespace ko::qtToolkit::widget {
 
+class ElidedLabelPrivate
+{
+public:
+    Qt::TextElideMode elideMode = Qt::ElideRight;
+    QString elidedText;
+    QString sourceText; // null while elidedText is out of date
+};
+
+ElidedLabel::ElidedLabel(QWidget *parent, Qt::WindowFlags f)
+    : QLabel(parent, f)
+    , d(std::make_unique<ElidedLabelPrivate>())
+{
+}
+
+ElidedLabel::ElidedLabel(const QString &text, QWidget *parent, Qt::WindowFlags f)
+    : QLabel(text, parent, f)
+    , d(std::make_unique<ElidedLabelPrivate>())
+{
+}
+
+ElidedLabel::~ElidedLabel() = default;
+
 void ElidedLabel::setElideMode(Qt::TextElideMode mode)
 {
     // Also for the current mode: the next paint computes the shortened text and the minimum
     // width afresh.
-    m_elideMode = mode;
-    m_sourceText = QString();
+    d->elideMode = mode;
+    d->sourceText = QString();
     update();
 }
 
 Qt::TextElideMode ElidedLabel::elideMode() const
 {
-    return m_elideMode;
+    return d->elideMode;
 }
 
 void ElidedLabel::updateCache()
 {
     // A null source marks the cache invalid; an empty text compares equal to it otherwise.
-    if (!m_sourceText.isNull() && text() == m_sourceText)
+    if (!d->sourceText.isNull() && text() == d->sourceText)
         return;
-    m_sourceText = text();
+    d->sourceText = text();
 
     const QFontMetrics metrics(font());
     // 4 pixels of inner allowance keep the last glyph off the label's edge.
-    m_elidedText = metrics.elidedText(m_sourceText, m_elideMode, width() - 4, Qt::TextShowMnemonic);
-    if (m_sourceText.isEmpty())
+    d->elidedText = metrics.elidedText(d->sourceText, d->elideMode, width() - 4, Qt::TextShowMnemonic);
+    if (d->sourceText.isEmpty())
         return;
 
     // The label may shrink to its first character and an ellipsis. The ellipsis is measured as
     // the three bytes of its UTF-8 form taken one byte a character, which usually leaves a little
     // more room than the ellipsis glyph needs.
-    const QString shortest = m_sourceText.left(1) + QChar(0x00E2) + QChar(0x0080) + QChar(0x00A6);
+    const QString shortest = d->sourceText.left(1) + QChar(0x00E2) + QChar(0x0080) + QChar(0x00A6);
     setMinimumWidth(metrics.horizontalAdvance(shortest) + 1);
 }
 
 void ElidedLabel::paintEvent(QPaintEvent *event)
 {
-    if (m_elideMode == Qt::ElideNone) {
+    if (d->elideMode == Qt::ElideNone) {
         QLabel::paintEvent(event);
         return;
     }
@@ -50,8 +72,8 @@ void ElidedLabel::paintEvent(QPaintEvent *event)
     // forever; updates are held off while the text is swapped.
     const bool updatesWereDisabled = testAttribute(Qt::WA_UpdatesDisabled);
     setAttribute(Qt::WA_UpdatesDisabled, true);
-    const QString fullText = m_sourceText;
-    setText(m_elidedText);
+    const QString fullText = d->sourceText;
+    setText(d->elidedText);
     QLabel::paintEvent(event);
     setText(fullText);
     setAttribute(Qt::WA_UpdatesDisabled, updatesWereDisabled);
@@ -60,7 +82,7 @@ void ElidedLabel::paintEvent(QPaintEvent *event)
 void ElidedLabel::resizeEvent(QResizeEvent *event)
 {
     QLabel::resizeEvent(event);
-    m_sourceText = QString();
+    d->sourceText = QString();
 }
 
 } // namespace ko::qtToolkit::widget

@@ -5,7 +5,11 @@
 
 #include <QLabel>
 
+#include <memory>
+
 namespace ko::qtToolkit::widget {
+
+class ElidedLabelPrivate;
 
 /**
  * \brief A label that shortens the text it shows to its width, and keeps the full text.
@@ -25,19 +29,14 @@ public:
      * \brief An empty label.
      * \param parent the owner of the label, or null
      */
-    explicit ElidedLabel(QWidget *parent = nullptr, Qt::WindowFlags f = Qt::WindowFlags())
-        : QLabel(parent, f)
-    {
-    }
+    explicit ElidedLabel(QWidget *parent = nullptr, Qt::WindowFlags f = Qt::WindowFlags());
 
     /**
      * \brief A label showing \a text.
      * \param parent the owner of the label, or null
      */
-    explicit ElidedLabel(const QString &text, QWidget *parent = nullptr, Qt::WindowFlags f = Qt::WindowFlags())
-        : QLabel(text, parent, f)
-    {
-    }
+    explicit ElidedLabel(const QString &text, QWidget *parent = nullptr, Qt::WindowFlags f = Qt::WindowFlags());
+    ~ElidedLabel() override;
 
     /**
      * \brief Sets where the text is cut; Qt::ElideNone makes the label paint as a QLabel.
@@ -63,9 +62,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    Qt::TextElideMode m_elideMode = Qt::ElideRight;
-    QString m_elidedText;
-    QString m_sourceText; // null while m_elidedText is out of date
+    std::unique_ptr<ElidedLabelPrivate> const d;
 };
 
 } // namespace ko::qtToolkit::widget

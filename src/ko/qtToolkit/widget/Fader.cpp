@@ -6,6 +6,7 @@
 #include <QVariant>
 
 #include <algorithm>
+#include <climits>
 #include <cstdlib>
 
 namespace ko::qtToolkit::widget {
@@ -27,6 +28,7 @@ public:
 
 private:
     bool press(QMouseEvent *event);
+    int draggedValue(int along) const;
     void move(const QMouseEvent *event);
     void release();
     void setMode(Mode newMode);
@@ -109,14 +111,20 @@ void FaderPrivate::move(const QMouseEvent *event)
         break;
     }
     case Mode::Fine:
-        q->setValue(pressValue - along / std::max(1, q->singleStep()));
+        q->setValue(draggedValue(along));
         break;
-    case Mode::Coarse: {
-        const int value = pressValue - along / std::max(1, q->singleStep());
-        q->setValue(value / coarseRounding * coarseRounding);
+    case Mode::Coarse:
+        q->setValue(draggedValue(along) / coarseRounding * coarseRounding);
         break;
     }
-    }
+}
+
+int FaderPrivate::draggedValue(int along) const
+{
+    // In 64 bits, saturated to int: a fader near INT_MIN or INT_MAX, as a data fader over an
+    // unbounded range is, would overflow.
+    const qint64 value = qint64(pressValue) - along / std::max(1, q->singleStep());
+    return int(std::clamp<qint64>(value, INT_MIN, INT_MAX));
 }
 
 void FaderPrivate::release()

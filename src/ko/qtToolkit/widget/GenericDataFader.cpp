@@ -9,6 +9,15 @@
 
 namespace ko::qtToolkit::widget {
 
+class GenericDataFaderPrivate
+{
+public:
+    float minimumData = 0.0f;
+    float maximumData = 10.0f;
+    unsigned int numberOfDecimals = 1;
+    float scale = 10.0f;
+};
+
 namespace {
 
 constexpr int labelWidth = 24;
@@ -19,58 +28,62 @@ constexpr int labelFontPointSize = 8;
 
 GenericDataFader::GenericDataFader(Qt::Orientation orientation, QWidget *parent)
     : Fader(orientation, parent)
+    , d(std::make_unique<GenericDataFaderPrivate>())
 {
     setProperty("TestTag", QStringLiteral("GenericDataFader"));
     connect(this, &QSlider::valueChanged, this, [this] { Q_EMIT dataChanged(getData()); });
 }
 
+GenericDataFader::~GenericDataFader() = default;
+
 float GenericDataFader::getData() const
 {
-    return static_cast<float>(value()) / m_scale;
+    return static_cast<float>(value()) / d->scale;
 }
 
 void GenericDataFader::setData(float data)
 {
-    setValue(common::truncatedToInt(data * m_scale));
+    setValue(common::truncatedToInt(data * d->scale));
 }
 
 float GenericDataFader::getMinimumData() const
 {
-    return m_minimumData;
+    return d->minimumData;
 }
 
 void GenericDataFader::setMinimumData(float minimum)
 {
-    m_minimumData = minimum;
+    d->minimumData = minimum;
     updateFaderRange();
 }
 
 float GenericDataFader::getMaximumData() const
 {
-    return m_maximumData;
+    return d->maximumData;
 }
 
 void GenericDataFader::setMaximumData(float maximum)
 {
-    m_maximumData = maximum;
+    d->maximumData = maximum;
     updateFaderRange();
 }
 
 unsigned int GenericDataFader::getNumberOfDecimals() const
 {
-    return m_numberOfDecimals;
+    return d->numberOfDecimals;
 }
 
 void GenericDataFader::setNumberOfDecimals(unsigned int decimals)
 {
-    m_numberOfDecimals = decimals;
+    d->numberOfDecimals = unsigned(common::boundedDecimals(decimals));
     updateFaderRange();
 }
 
 void GenericDataFader::updateFaderRange()
 {
-    m_scale = std::pow(10.0f, static_cast<float>(m_numberOfDecimals));
-    setRange(common::truncatedToInt(m_minimumData * m_scale), common::truncatedToInt(m_maximumData * m_scale));
+    d->scale = std::pow(10.0f, static_cast<float>(d->numberOfDecimals));
+    setRange(common::truncatedToSliderBound(d->minimumData * d->scale),
+             common::truncatedToSliderBound(d->maximumData * d->scale));
 }
 
 void GenericDataFader::paintEvent(QPaintEvent *event)
@@ -82,9 +95,9 @@ void GenericDataFader::paintEvent(QPaintEvent *event)
         // On a fader narrower than the labels they start left of the widget; the text is
         // right-aligned, so what is cut off is the start of a long number.
         painter.drawText(QRect(width() - labelWidth, 0, labelWidth, labelHeight), Qt::AlignRight,
-                         QStringLiteral("%1").arg(static_cast<double>(m_maximumData)));
+                         QStringLiteral("%1").arg(static_cast<double>(d->maximumData)));
         painter.drawText(QRect(width() - labelWidth, height() - labelHeight - 1, labelWidth, labelHeight),
-                         Qt::AlignRight, QStringLiteral("%1").arg(static_cast<double>(m_minimumData)));
+                         Qt::AlignRight, QStringLiteral("%1").arg(static_cast<double>(d->minimumData)));
     }
     Fader::paintEvent(event);
 }

@@ -4,7 +4,11 @@
 #include <ko/qtToolkit/qtToolkit_export.h>
 #include <ko/qtToolkit/widget/Fader.h>
 
+#include <memory>
+
 namespace ko::qtToolkit::widget {
+
+class GenericDataFaderPrivate;
 
 /**
  * \brief A Fader over a floating-point range with a fixed number of decimals.
@@ -33,6 +37,7 @@ public:
      * \param parent the parent widget, which owns the fader; may be null.
      */
     explicit GenericDataFader(Qt::Orientation orientation, QWidget *parent = nullptr);
+    ~GenericDataFader() override;
 
     /// \brief The slider's value divided by the scale.
     float getData() const;
@@ -53,11 +58,16 @@ public:
     unsigned int getNumberOfDecimals() const;
 
     /// \brief Sets the number of decimals kept and updates the scale and the slider's range.
+    ///
+    /// At most 17 decimals are kept, the digits a double holds; more count as 17.
     void setNumberOfDecimals(unsigned int decimals);
 
     /**
      * \brief Recomputes the scale (10 to the power of the number of decimals) and sets the
      *        slider's range to the data range times the scale, truncated toward zero.
+     *
+     * The slider's bounds saturate at half the int range (±1073741823), so that a data range
+     * reaching to infinity, such as an attenuation of -inf to 0 dB, still paints.
      */
     void updateFaderRange();
 
@@ -77,10 +87,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    float m_minimumData = 0.0f;
-    float m_maximumData = 10.0f;
-    unsigned int m_numberOfDecimals = 1;
-    float m_scale = 10.0f;
+    std::unique_ptr<GenericDataFaderPrivate> const d;
 };
 
 } // namespace ko::qtToolkit::widget

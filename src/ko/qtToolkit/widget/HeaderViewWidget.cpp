@@ -1,4 +1,4 @@
-#include <ko/qtToolkit/widget/HeaderViewWidget.h>
+#include <ko/qtToolkit/widget/HeaderViewWidget_p.h>
 
 #include <ko/qtToolkit/widget/TableWidget.h>
 

@@ -6,9 +6,29 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace ko::qtToolkit::widget {
+
+class LevelMeterPrivate
+{
+public:
+    // The gradient is kept as a brush so that painting allocates nothing.
+    QBrush gradient;
+    QColor backgroundColor{0xbbbbbb};
+    QColor lowColor{0x008000};
+    QColor mediumColor{0xfa6500};
+    QColor highColor{0xc82300};
+    QColor frameColor{0x575757};
+    QColor mutedFrameColor{0xff0000};
+    float level = -60.0f;
+    float minimumLevel = -60.0f;
+    float maximumLevel = 15.0f;
+    float mediumThresholdLevel = -20.0f;
+    float highThresholdLevel = 10.0f;
+    bool muted = false;
+};
 
 namespace {
 
@@ -27,47 +47,60 @@ void fillOutline(QPainter &painter, const QRect &rect, const QColor &color)
     }
 }
 
+// Level ranges are arguments: one that is not finite is refused, as the mapping onto the bar
+// would give NaN.
+bool isFiniteLevel(const char *function, float level)
+{
+    if (std::isfinite(level))
+        return true;
+    qWarning("LevelMeter::%s: ignoring a level that is not finite", function);
+    return false;
+}
+
 } // namespace
 
 LevelMeter::LevelMeter(QWidget *parent)
     : QProgressBar(parent)
+    , d(std::make_unique<LevelMeterPrivate>())
 {
 }
 
+LevelMeter::~LevelMeter() = default;
+
 float LevelMeter::level() const
 {
-    return m_level;
+    return d->level;
 }
 
 float LevelMeter::minimumLevel() const
 {
-    return m_minimumLevel;
+    return d->minimumLevel;
 }
 
 float LevelMeter::maximumLevel() const
 {
-    return m_maximumLevel;
+    return d->maximumLevel;
 }
 
 float LevelMeter::mediumThresholdLevel() const
 {
-    return m_mediumThresholdLevel;
+    return d->mediumThresholdLevel;
 }
 
 float LevelMeter::highThresholdLevel() const
 {
-    return m_highThresholdLevel;
+    return d->highThresholdLevel;
 }
 
 bool LevelMeter::isMuted() const
 {
-    return m_muted;
+    return d->muted;
 }
 
 void LevelMeter::setLevel(float level)
 {
-    m_level = clampLevel(level);
-    const int value = mapLevelToValue(m_level);
+    d->level = clampLevel(level);
+    const int value = mapLevelToValue(d->level);
     if (value == this->value())
         return;
     // QProgressBar::setValue() repaints at once, which flushes the window for every meter of a
@@ -83,28 +116,30 @@ void LevelMeter::setLevel(float level)
 
 void LevelMeter::setLevelRange(float minimum, float maximum)
 {
-    if (minimum > maximum || (minimum == m_minimumLevel && maximum == m_maximumLevel))
+    if (!isFiniteLevel("setLevelRange", minimum) || !isFiniteLevel("setLevelRange", maximum))
         return;
-    m_minimumLevel = minimum;
-    m_maximumLevel = maximum;
+    if (minimum > maximum || (minimum == d->minimumLevel && maximum == d->maximumLevel))
+        return;
+    d->minimumLevel = minimum;
+    d->maximumLevel = maximum;
     update();
 }
 
 void LevelMeter::setMinimumLevel(float minimum)
 {
-    if (minimum == m_minimumLevel)
+    if (!isFiniteLevel("setMinimumLevel", minimum) || minimum == d->minimumLevel)
         return;
-    m_maximumLevel = std::max(minimum, m_maximumLevel);
-    m_minimumLevel = minimum;
+    d->maximumLevel = std::max(minimum, d->maximumLevel);
+    d->minimumLevel = minimum;
     update();
 }
 
 void LevelMeter::setMaximumLevel(float maximum)
 {
-    if (maximum == m_maximumLevel)
+    if (!isFiniteLevel("setMaximumLevel", maximum) || maximum == d->maximumLevel)
         return;
-    m_minimumLevel = std::min(maximum, m_minimumLevel);
-    m_maximumLevel = maximum;
+    d->minimumLevel = std::min(maximum, d->minimumLevel);
+    d->maximumLevel = maximum;
     update();
 }
 
@@ -112,67 +147,70 @@ void LevelMeter::setMaximumLevel(float maximum)
 // is also how the zones follow a new level range.
 void LevelMeter::setMediumThresholdLevel(float level)
 {
-    m_mediumThresholdLevel = clampLevel(level);
-    m_highThresholdLevel = clampLevel(std::max(m_mediumThresholdLevel, m_highThresholdLevel));
+    d->mediumThresholdLevel = clampLevel(level);
+    d->highThresholdLevel = clampLevel(std::max(d->mediumThresholdLevel, d->highThresholdLevel));
     updateGradient();
 }
 
 void LevelMeter::setHighThresholdLevel(float level)
 {
-    m_highThresholdLevel = clampLevel(level);
-    m_mediumThresholdLevel = clampLevel(std::min(m_highThresholdLevel, m_mediumThresholdLevel));
+    d->highThresholdLevel = clampLevel(level);
+    d->mediumThresholdLevel = clampLevel(std::min(d->highThresholdLevel, d->mediumThresholdLevel));
     updateGradient();
 }
 
 void LevelMeter::setMuted(bool muted)
 {
-    if (muted == m_muted)
+    if (muted == d->muted)
         return;
-    m_muted = muted;
+    d->muted = muted;
     update();
 }
 
 void LevelMeter::setBackgroundColor(const QColor &color)
 {
-    if (color == m_backgroundColor)
+    if (color == d->backgroundColor)
         return;
-    m_backgroundColor = color;
+    d->backgroundColor = color;
     update();
 }
 
 void LevelMeter::setLowColor(const QColor &color)
 {
-    m_lowColor = color;
+    d->lowColor = color;
     updateGradient();
 }
 
 void LevelMeter::setMediumColor(const QColor &color)
 {
-    m_mediumColor = color;
+    d->mediumColor = color;
     updateGradient();
 }
 
 void LevelMeter::setHighColor(const QColor &color)
 {
-    m_highColor = color;
+    d->highColor = color;
     updateGradient();
 }
 
 float LevelMeter::clampLevel(float level) const
 {
-    return std::max(std::min(level, m_maximumLevel), m_minimumLevel);
+    // A level that is not a number, a sensor's failure say, shows as silence.
+    if (std::isnan(level))
+        return d->minimumLevel;
+    return std::max(std::min(level, d->maximumLevel), d->minimumLevel);
 }
 
 int LevelMeter::mapLevelToValue(float level) const
 {
     const auto vmin = static_cast<float>(minimum());
     const auto vmax = static_cast<float>(maximum());
-    return common::truncatedToInt((vmax - vmin) * (level - m_minimumLevel) / (m_maximumLevel - m_minimumLevel) + vmin);
+    return common::truncatedToInt((vmax - vmin) * (level - d->minimumLevel) / (d->maximumLevel - d->minimumLevel) + vmin);
 }
 
 float LevelMeter::mapLevelToPercentage(float level) const
 {
-    return (level - m_minimumLevel) / (m_maximumLevel - m_minimumLevel);
+    return (level - d->minimumLevel) / (d->maximumLevel - d->minimumLevel);
 }
 
 float LevelMeter::mapValueToPercentage(int value) const
@@ -193,17 +231,23 @@ void LevelMeter::updateGradient()
     // Position 0 is at the bottom of a vertical meter but at the right edge of a horizontal one.
     QLinearGradient gradient = orientation() == Qt::Vertical ? QLinearGradient(0, height() - 1, 0, 1)
                                                              : QLinearGradient(width() - 1, 0, 1, 0);
-    const float range = m_maximumLevel - m_minimumLevel;
-    const float medium = (m_mediumThresholdLevel - m_minimumLevel) / range;
-    const float high = (m_highThresholdLevel - m_minimumLevel) / range;
+    const float range = d->maximumLevel - d->minimumLevel;
+    const float medium = (d->mediumThresholdLevel - d->minimumLevel) / range;
+    const float high = (d->highThresholdLevel - d->minimumLevel) / range;
     // Stops one float epsilon apart make hard edges; the gradient pads below the first stop and
     // above the last, which gives three flat zones.
+    // A threshold at an end of the range puts a stop just beyond 0 or 1, which QGradient would
+    // refuse with a warning at every rebuild: such stops are left out, to the same effect.
     const float epsilon = std::numeric_limits<float>::epsilon();
-    gradient.setColorAt(medium, m_lowColor);
-    gradient.setColorAt(medium + epsilon, m_mediumColor);
-    gradient.setColorAt(high - epsilon, m_mediumColor);
-    gradient.setColorAt(high, m_highColor);
-    m_gradient = QBrush(gradient);
+    const auto addStop = [&gradient](float position, const QColor &color) {
+        if (position >= 0.0f && position <= 1.0f)
+            gradient.setColorAt(position, color);
+    };
+    addStop(medium, d->lowColor);
+    addStop(medium + epsilon, d->mediumColor);
+    addStop(high - epsilon, d->mediumColor);
+    addStop(high, d->highColor);
+    d->gradient = QBrush(gradient);
     update();
 }
 
@@ -212,12 +256,12 @@ void LevelMeter::paintEvent(QPaintEvent * /*event*/)
     QPainter painter(this);
     const QRect whole = rect();
     const QRect inner = whole.adjusted(1, 1, -1, -1);
-    const bool washedOut = m_muted || !isEnabled();
-    const QColor &frameColor = m_muted ? m_mutedFrameColor : m_frameColor;
+    const bool washedOut = d->muted || !isEnabled();
+    const QColor &frameColor = d->muted ? d->mutedFrameColor : d->frameColor;
     // When nothing is translucent, one fill of the whole widget lays the frame and the inside is
     // painted over it, the gradient only where the bar is lit: the same pixels as gradient,
     // background and outline drawn one over the other, at a fraction of the cost.
-    const bool opaque = !washedOut && m_gradient.isOpaque() && m_backgroundColor.alpha() == 255;
+    const bool opaque = !washedOut && d->gradient.isOpaque() && d->backgroundColor.alpha() == 255;
     if (opaque)
         painter.fillRect(whole, frameColor);
     if (!inner.isEmpty()) {
@@ -237,15 +281,15 @@ void LevelMeter::paintEvent(QPaintEvent * /*event*/)
         }
         const QRect &gradientArea = opaque ? lit : inner;
         if (!gradientArea.isEmpty())
-            painter.fillRect(gradientArea, m_gradient);
+            painter.fillRect(gradientArea, d->gradient);
         if (!unlit.isEmpty())
-            painter.fillRect(unlit, m_backgroundColor);
+            painter.fillRect(unlit, d->backgroundColor);
     }
     if (washedOut)
         painter.fillRect(whole, QColor(255, 255, 255, 128));
     if (!opaque) {
         fillOutline(painter, whole, frameColor);
-        if (m_muted)
+        if (d->muted)
             fillOutline(painter, inner, frameColor);
     }
 }

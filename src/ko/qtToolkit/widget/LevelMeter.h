@@ -7,7 +7,11 @@
 #include <QColor>
 #include <QProgressBar>
 
+#include <memory>
+
 namespace ko::qtToolkit::widget {
+
+class LevelMeterPrivate;
 
 /**
  * \brief A bar meter for audio levels with three colour zones.
@@ -44,6 +48,7 @@ public:
      * \param parent the parent widget, which owns the meter; may be null.
      */
     explicit LevelMeter(QWidget *parent = nullptr);
+    ~LevelMeter() override;
 
     /// \brief The level, clamped to the level range when it was set.
     float level() const;
@@ -61,19 +66,27 @@ public:
     /**
      * \brief Sets the level, clamped to the level range, and the progress bar's value mapped
      *        from it. The meter is repainted when the value changes.
+     *
+     * A level that is not a number (NaN) counts as the minimum level.
      */
     void setLevel(float level);
 
     /**
      * \brief Sets both ends of the level range; ignored when \a minimum is greater than
      *        \a maximum. Neither the level nor the thresholds are clamped again.
+     *
+     * An end that is not finite is refused with a warning.
      */
     void setLevelRange(float minimum, float maximum);
 
     /// \brief Sets the lower end of the level range, raising the upper end to it if needed.
+    ///
+    /// A value that is not finite is refused with a warning.
     void setMinimumLevel(float minimum);
 
     /// \brief Sets the upper end of the level range, lowering the lower end to it if needed.
+    ///
+    /// A value that is not finite is refused with a warning.
     void setMaximumLevel(float maximum);
 
     /**
@@ -100,7 +113,8 @@ public:
     /// \brief The colour above the high threshold; #c82300 by default.
     void setHighColor(const QColor &color);
 
-    /// \brief \a level limited to the level range; the minimum wins over the maximum.
+    /// \brief \a level limited to the level range; the minimum wins over the maximum, and NaN
+    ///        gives the minimum.
     float clampLevel(float level) const;
 
     /// \brief The progress bar value of \a level, truncated toward zero and not clamped.
@@ -129,20 +143,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    // The gradient is kept as a brush so that painting allocates nothing.
-    QBrush m_gradient;
-    QColor m_backgroundColor{0xbbbbbb};
-    QColor m_lowColor{0x008000};
-    QColor m_mediumColor{0xfa6500};
-    QColor m_highColor{0xc82300};
-    QColor m_frameColor{0x575757};
-    QColor m_mutedFrameColor{0xff0000};
-    float m_level = -60.0f;
-    float m_minimumLevel = -60.0f;
-    float m_maximumLevel = 15.0f;
-    float m_mediumThresholdLevel = -20.0f;
-    float m_highThresholdLevel = 10.0f;
-    bool m_muted = false;
+    std::unique_ptr<LevelMeterPrivate> const d;
 };
 
 } // namespace ko::qtToolkit::widget

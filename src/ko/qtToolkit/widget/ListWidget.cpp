@@ -17,6 +17,7 @@ public:
     }
 
     void checkButtonOfRow(int row) const;
+    void followClickedButton(QAbstractButton *button) const;
     void followCheckedButton(QAbstractButton *button, bool checked) const;
 
     ListWidget *const owner;
@@ -38,16 +39,25 @@ void ListWidgetPrivate::followCheckedButton(QAbstractButton *button, bool checke
         owner->setCurrentRow(owner->QListWidget::row(items.value(button)));
 }
 
+void ListWidgetPrivate::followClickedButton(QAbstractButton *button) const
+{
+    // A button stays checked when no row, or a row without a button, becomes current; pressing
+    // it then toggles nothing, but still makes its row current.
+    if (button->isChecked())
+        owner->setCurrentRow(owner->QListWidget::row(items.value(button)));
+}
+
 namespace {
 
-// Qt keeps index widgets in the item view's editor registry and deletes every registered widget
-// whose row goes away. Unregistering the widget first lets it outlive its row.
+// Qt keeps index widgets in the item view's editor registry: it deletes every registered widget
+// whose row goes away, and lays out every registered widget, dead or alive. Taking a widget out
+// of the registry lets it outlive its row, or its row outlive it.
 // Qt does not export the type information of its private classes, which the undefined-behaviour
 // sanitizer's check of the downcast would need.
 #if defined(__GNUC__)
 __attribute__((no_sanitize("vptr")))
 #endif
-void releaseIndexWidget(QAbstractItemView *view, QWidget *widget)
+void forgetIndexWidget(QAbstractItemView *view, QWidget *widget)
 {
     auto *viewPrivate = static_cast<QAbstractItemViewPrivate *>(QObjectPrivate::get(view));
     const auto it = viewPrivate->editorIndexHash.find(widget);
@@ -57,7 +67,20 @@ void releaseIndexWidget(QAbstractItemView *view, QWidget *widget)
     }
     // A persistent widget that gains focus would make its (now invalid) index current.
     viewPrivate->persistent.remove(widget);
+}
+
+void releaseIndexWidget(QAbstractItemView *view, QWidget *widget)
+{
+    forgetIndexWidget(view, widget);
     widget->removeEventFilter(view);
+}
+
+// The list whose row \a button is, if any: a row's button lives in its list's viewport.
+const ListWidget *listOf(QAbstractButton *button)
+{
+    const QWidget *viewport = button->parentWidget();
+    const auto *list = viewport ? dynamic_cast<const ListWidget *>(viewport->parentWidget()) : nullptr;
+    return list && list->row(button) >= 0 ? list : nullptr;
 }
 
 } // namespace
@@ -72,6 +95,8 @@ ListWidget::ListWidget(QWidget *parent)
             [this](int row) { d->checkButtonOfRow(row); });
     connect(&d->group, qOverload<QAbstractButton *, bool>(&QButtonGroup::buttonToggled), this,
             [this](QAbstractButton *button, bool checked) { d->followCheckedButton(button, checked); });
+    connect(&d->group, qOverload<QAbstractButton *>(&QButtonGroup::buttonClicked), this,
+            [this](QAbstractButton *button) { d->followClickedButton(button); });
 }
 
 ListWidget::~ListWidget()
@@ -96,6 +121,11 @@ void ListWidget::insertItem(int row, QAbstractButton *button)
         qWarning("ListWidget::addItem: widget already in the list");
         return;
     }
+    // Both lists would own it, and removing it from one would leave the other a dead row.
+    if (listOf(button)) {
+        qWarning("ListWidget::addItem: widget already in another list");
+        return;
+    }
 
     auto *item = new QListWidgetItem(this, QListWidgetItem::Type);
     item->setSizeHint(button->sizeHint());
@@ -107,9 +137,13 @@ void ListWidget::insertItem(int row, QAbstractButton *button)
     d->items.insert(button, item);
     d->group.addButton(button, -1);
     button->setFocusPolicy(Qt::NoFocus);
-    // A button the application deletes itself leaves an empty row behind; forget it, so that
-    // its address may be added again.
-    connect(button, &QObject::destroyed, &d->group, [this, button] { d->items.remove(button); });
+    // A button the application deletes itself leaves an empty row behind. Qt's item view would
+    // keep the dead widget as the row's editor and use it at the next layout; forget it there
+    // and here, so that its address may also be added again.
+    connect(button, &QObject::destroyed, &d->group, [this, button] {
+        forgetIndexWidget(this, button);
+        d->items.remove(button);
+    });
 }
 
 void ListWidget::removeItem(QAbstractButton *button)

@@ -1,6 +1,6 @@
 #include <ko/qtToolkit/widget/TableWidget.h>
 
-#include <ko/qtToolkit/widget/HeaderViewWidget.h>
+#include <ko/qtToolkit/widget/HeaderViewWidget_p.h>
 
 namespace ko::qtToolkit::widget {
 

@@ -12,7 +12,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPointer>
-#include <QSignalBlocker>
 #include <QTimer>
 
 namespace ko::qtToolkit::widget {
@@ -41,7 +40,8 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    void setText(const QString &newText);
+    void commit(const QString &newText);
+    void redraw();
     void showDisplayText();
     void setPlaceholderText(const QString &newPlaceholderText);
 
@@ -81,17 +81,23 @@ TextEntryPrivate::TextEntryPrivate(TextEntry *entry)
     q->installEventFilter(this);
 }
 
-void TextEntryPrivate::setText(const QString &newText)
+// The validator repairs the text, which becomes the committed text, is shown, and is announced
+// (also when it did not change).
+void TextEntryPrivate::commit(const QString &newText)
 {
     QString fixed = newText;
     if (validator)
         validator->fixup(fixed);
     text = fixed;
+    redraw();
+    Q_EMIT q->textChanged(text);
+}
 
+// Shows the committed text: a number with its suffix, any other text elided to the field's width.
+void TextEntryPrivate::redraw()
+{
     displayText = numeric ? text + suffix : elidedText(text, *lineEdit, 0, EllipsisMode::Elide, dashes());
     showDisplayText();
-
-    Q_EMIT q->textChanged(text);
 }
 
 void TextEntryPrivate::showDisplayText()
@@ -131,13 +137,11 @@ bool TextEntryPrivate::eventFilter(QObject *watched, QEvent *event)
         return false;
     case QEvent::KeyPress:
         return keyPress(static_cast<const QKeyEvent &>(*event));
-    case QEvent::Resize: {
+    case QEvent::Resize:
         // Elision follows the width; the committed text itself does not change.
-        const QSignalBlocker blocker(q);
-        setText(text);
+        redraw();
         setPlaceholderText(placeholderText);
         return false;
-    }
     default:
         return false;
     }
@@ -164,7 +168,7 @@ bool TextEntryPrivate::focusIn()
     if (!alive)
         return true;
     if (result == QDialog::Accepted) {
-        setText(keypad->text());
+        commit(keypad->text());
         return true;
     }
     // Cancelled: the committed text is shown again, without a commit. Giving up the focus
@@ -177,7 +181,7 @@ void TextEntryPrivate::focusOut()
 {
     finished = true;
     if (lineEdit->text() != displayText)
-        setText(lineEdit->text());
+        commit(lineEdit->text());
     lineEdit->update();
 }
 
@@ -191,9 +195,9 @@ bool TextEntryPrivate::escape()
 {
     if (finished)
         return false;
-    // Undoing the edit is not a change the outside has to hear about.
-    const QSignalBlocker blocker(q);
-    setText(savedText);
+    // Undoing the edit shows the text committed before it again; nothing is committed.
+    text = savedText;
+    redraw();
     return true;
 }
 
@@ -246,7 +250,7 @@ TextEntry::TextEntry(const QString &text, QWidget *parent)
     : QWidget(parent)
     , d(std::make_unique<TextEntryPrivate>(this))
 {
-    d->setText(text);
+    d->commit(text);
 }
 
 TextEntry::~TextEntry() = default;
@@ -258,7 +262,7 @@ QString TextEntry::text() const
 
 void TextEntry::setText(const QString &text)
 {
-    d->setText(text);
+    d->commit(text);
 }
 
 QString TextEntry::suffix() const
@@ -271,7 +275,7 @@ void TextEntry::setSuffix(const QString &suffix)
     if (d->suffix == suffix)
         return;
     d->suffix = suffix;
-    d->setText(d->text);
+    d->commit(d->text);
 }
 
 QString TextEntry::placeholderText() const

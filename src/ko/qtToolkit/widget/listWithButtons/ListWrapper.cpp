@@ -4,105 +4,118 @@
 
 namespace ko::qtToolkit::widget::listWithButtons {
 
+class ListWrapperPrivate
+{
+public:
+    explicit ListWrapperPrivate(ListWrapper *q)
+        : list(q)
+    {
+    }
+
+    // Held by value: the list goes with this object, before QWidget deletes the wrapper's
+    // children.
+    ListWidget list;
+};
+
 ListWrapper::ListWrapper(const QString &testId, QWidget *parent)
     : QWidget(parent)
-    , list(this)
+    , d(std::make_unique<ListWrapperPrivate>(this))
 {
     setProperty("TestID", QString(testId + QLatin1String("Wrapper")));
-    list.setProperty("TestID", testId);
-    connect(&list, &QListWidget::currentRowChanged, this, &ListWrapper::currentRowChanged);
+    d->list.setProperty("TestID", testId);
+    connect(&d->list, &QListWidget::currentRowChanged, this, &ListWrapper::currentRowChanged);
 }
 
 ListWrapper::~ListWrapper() = default;
 
 void ListWrapper::addItem(QAbstractButton *button)
 {
-    list.addItem(button);
+    d->list.addItem(button);
 }
 
 void ListWrapper::insertItem(int row, QAbstractButton *button)
 {
-    list.insertItem(row, button);
+    d->list.insertItem(row, button);
 }
 
 void ListWrapper::insertItem(int row, QListWidgetItem *item)
 {
-    list.QListWidget::insertItem(row, item);
+    d->list.QListWidget::insertItem(row, item);
 }
 
 void ListWrapper::removeItem(QAbstractButton *button)
 {
-    list.removeItem(button);
+    d->list.removeItem(button);
 }
 
 QAbstractButton *ListWrapper::takeItem(int row)
 {
-    return list.takeItem(row);
+    return d->list.takeItem(row);
 }
 
 QListWidgetItem *ListWrapper::item(int row) const
 {
-    return list.item(row);
+    return d->list.item(row);
 }
 
 QWidget *ListWrapper::widget(int row) const
 {
-    return list.widget(row);
+    return d->list.widget(row);
 }
 
 int ListWrapper::row(QAbstractButton *button) const
 {
-    return list.row(button);
+    return d->list.row(button);
 }
 
 int ListWrapper::count() const
 {
-    return list.count();
+    return d->list.count();
 }
 
 void ListWrapper::clear()
 {
-    list.clear();
+    d->list.clear();
 }
 
 void ListWrapper::instrument()
 {
-    list.instrument();
+    d->list.instrument();
 }
 
 void ListWrapper::setCurrentRow(int row)
 {
-    list.setCurrentRow(row);
+    d->list.setCurrentRow(row);
 }
 
 void ListWrapper::setSelectionMode(QAbstractItemView::SelectionMode mode)
 {
-    list.setSelectionMode(mode);
+    d->list.setSelectionMode(mode);
 }
 
 void ListWrapper::setDragDropMode(QAbstractItemView::DragDropMode mode)
 {
-    list.setDragDropMode(mode);
+    d->list.setDragDropMode(mode);
 }
 
 void ListWrapper::setItemDelegate(QAbstractItemDelegate *delegate)
 {
-    list.setItemDelegate(delegate);
+    d->list.setItemDelegate(delegate);
 }
 
 void ListWrapper::setSpacing(int spacing)
 {
-    list.setSpacing(spacing);
+    d->list.setSpacing(spacing);
 }
 
 ListWidget *ListWrapper::getList()
 {
-    return &list;
+    return &d->list;
 }
 
 const ListWidget *ListWrapper::getList() const
 {
-    return &list;
+    return &d->list;
 }
 
 } // namespace ko::qtToolkit::widget::listWithButtons

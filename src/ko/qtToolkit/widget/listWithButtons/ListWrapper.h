@@ -6,11 +6,15 @@
 
 #include <QWidget>
 
+#include <memory>
+
 class QAbstractButton;
 class QAbstractItemDelegate;
 class QListWidgetItem;
 
 namespace ko::qtToolkit::widget::listWithButtons {
+
+class ListWrapperPrivate;
 
 /**
  * \brief A widget that owns a ListWidget and forwards the list's operations.
@@ -78,7 +82,7 @@ Q_SIGNALS:
     void currentRowChanged(int row);
 
 private:
-    ListWidget list;
+    std::unique_ptr<ListWrapperPrivate> const d;
 };
 
 } // namespace ko::qtToolkit::widget::listWithButtons

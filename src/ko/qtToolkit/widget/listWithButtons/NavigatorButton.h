@@ -7,10 +7,13 @@
 #include <QPushButton>
 
 #include <functional>
+#include <memory>
 
 class QScrollBar;
 
 namespace ko::qtToolkit::widget::listWithButtons {
+
+class NavigatorButtonPrivate;
 
 /**
  * \brief A push button that steps a scroll bar, for scrolling a list on a touch screen.
@@ -45,7 +48,9 @@ public:
      * std::bad_function_call, and the limit is asked for at once. The button is made visible
      * (see showOrHideNavigatorIfNeeded()), so give it its parent here.
      * \param testId the button's "TestID".
-     * \param scrollBar the scroll bar the button steps; not owned, and it must outlive the button.
+     * \param scrollBar the scroll bar the button steps; not owned. When it belongs to a scroll area
+     *        (a list) that later replaces it, the button follows the area's new scroll bar; while
+     *        it has none, the button is disabled and a press does nothing.
      * \param specifics what a press does and where the button stops.
      * \param parent the parent widget, which owns the button.
      */
@@ -83,9 +88,7 @@ public:
     void setHideIfScrollBarWouldHide(bool hide);
 
 private:
-    QScrollBar &scrollBar;
-    DirectionSpecifics specifics;
-    bool hideIfScrollBarWouldHide = false;
+    std::unique_ptr<NavigatorButtonPrivate> const d;
 };
 
 } // namespace ko::qtToolkit::widget::listWithButtons

@@ -2,23 +2,18 @@
 
 #include <ko/qtToolkit/widget/listWithButtons/NavigatorButton_p.h>
 
-#include <QScrollBar>
-#include <QVariant>
-
 namespace ko::qtToolkit::widget::listWithButtons {
 
 NavigatorButtonNext::NavigatorButtonNext(const QString &testId, Direction direction, QScrollBar &scrollBar,
                                          QWidget *parent)
     : NavigatorButton(testId, scrollBar, makeDirectionSpecifics(direction), parent)
 {
-    setProperty("arrowType", QString::fromLatin1(arrowTypes(direction).next));
+    setArrowType(this, arrowTypes(direction).next);
 }
 
 NavigatorButton::DirectionSpecifics NavigatorButtonNext::makeDirectionSpecifics(Direction direction)
 {
-    return {direction,
-            [](QScrollBar &scrollBar) { scrollBar.triggerAction(QAbstractSlider::SliderSingleStepAdd); },
-            [](QScrollBar &scrollBar) { return scrollBar.maximum(); }};
+    return steppingSpecifics(direction, QAbstractSlider::SliderSingleStepAdd);
 }
 
 } // namespace ko::qtToolkit::widget::listWithButtons

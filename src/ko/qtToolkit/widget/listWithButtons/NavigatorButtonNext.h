@@ -18,8 +18,8 @@ public:
      * \brief Builds the button for a list laid out in \a direction.
      * \param testId the button's "TestID".
      * \param direction the direction of the list.
-     * \param scrollBar the list's scroll bar in that direction; not owned, and it must outlive
-     *        the button.
+     * \param scrollBar the list's scroll bar in that direction; not owned. The button follows
+     *        the list's new scroll bar when the list replaces it (see NavigatorButton).
      * \param parent the parent widget, which owns the button.
      */
     NavigatorButtonNext(const QString &testId, Direction direction, QScrollBar &scrollBar,

@@ -17,27 +17,36 @@ QScrollBar &scrollBarOf(ListWidget &list, Direction direction)
 
 } // namespace
 
+class WidgetBasePrivate
+{
+public:
+    QBoxLayout *boxLayout = nullptr;
+    NavigatorButton *previousButton = nullptr;
+    NavigatorButton *nextButton = nullptr;
+};
+
 WidgetBase::WidgetBase(const QString &testId, Direction direction, QWidget *parent)
     : ListWrapper(testId, parent)
-    , boxLayout(createLayout(direction))
-    , previousButton(new NavigatorButtonPrevious(testId + QLatin1String(".PrevButton"), direction,
-                                                 scrollBarOf(*getList(), direction), this))
-    , nextButton(new NavigatorButtonNext(testId + QLatin1String(".NextButton"), direction,
-                                         scrollBarOf(*getList(), direction), this))
+    , d(std::make_unique<WidgetBasePrivate>())
 {
-    boxLayout->addWidget(previousButton);
-    boxLayout->addWidget(getList());
-    boxLayout->addWidget(nextButton);
-    boxLayout->setContentsMargins(0, 0, 0, 0);
-    boxLayout->setSpacing(0);
+    d->boxLayout = createLayout(direction);
+    d->previousButton = new NavigatorButtonPrevious(testId + QLatin1String(".PrevButton"), direction,
+                                                    scrollBarOf(*getList(), direction), this);
+    d->nextButton = new NavigatorButtonNext(testId + QLatin1String(".NextButton"), direction,
+                                            scrollBarOf(*getList(), direction), this);
+    d->boxLayout->addWidget(d->previousButton);
+    d->boxLayout->addWidget(getList());
+    d->boxLayout->addWidget(d->nextButton);
+    d->boxLayout->setContentsMargins(0, 0, 0, 0);
+    d->boxLayout->setSpacing(0);
 }
 
 WidgetBase::~WidgetBase()
 {
     // The list, and with it the scroll bar the buttons hold on to, belongs to the base class and
     // is destroyed before Qt deletes this widget's children: the buttons go first.
-    delete previousButton;
-    delete nextButton;
+    delete d->previousButton;
+    delete d->nextButton;
 }
 
 QBoxLayout *WidgetBase::createLayout(Direction direction)

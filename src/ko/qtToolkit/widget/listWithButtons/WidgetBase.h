@@ -5,11 +5,14 @@
 #include <ko/qtToolkit/widget/listWithButtons/Direction.h>
 #include <ko/qtToolkit/widget/listWithButtons/ListWrapper.h>
 
+#include <memory>
+
 class QBoxLayout;
 
 namespace ko::qtToolkit::widget::listWithButtons {
 
 class NavigatorButton;
+class WidgetBasePrivate;
 
 /**
  * \brief A list framed by a previous and a next navigator button, in a row or a column.
@@ -42,9 +45,7 @@ protected:
     QBoxLayout *createLayout(Direction direction);
 
 private:
-    QBoxLayout *boxLayout;
-    NavigatorButton *previousButton;
-    NavigatorButton *nextButton;
+    std::unique_ptr<WidgetBasePrivate> const d;
 };
 
 } // namespace ko::qtToolkit::widget::listWithButtons

@@ -1,5 +1,5 @@
-#ifndef KO_QTTOOLKIT_CHARTS_CARTESIANCHARTAXIS_H
-#define KO_QTTOOLKIT_CHARTS_CARTESIANCHARTAXIS_H
+#ifndef KO_QTTOOLKIT_CHARTS_CARTESIANCHARTAXIS_P_H
+#define KO_QTTOOLKIT_CHARTS_CARTESIANCHARTAXIS_P_H
 
 #include <ko/qtToolkit/qtToolkit_export.h>
 
@@ -30,20 +30,19 @@ namespace ko::qtToolkit::charts {
  * minor label groups hold one item per minor tick. The i-th item of a group belongs to the
  * i-th tick value.
  *
- * HorizontalAxis and VerticalAxis place the items and answer the chart layout's size queries.
+ * One layout places the items and answers the chart layout's size queries for both
+ * orientations, in terms of along the axis and across it; HorizontalAxis and VerticalAxis
+ * choose the orientation.
  */
 class KO_QTTOOLKIT_EXPORT CartesianChartAxis : public QtCharts::ChartAxisElement
 {
     Q_OBJECT
 
 public:
-    /**
-     * \brief The element of \a axis, with \a item as parent of all its items.
-     *
-     * Neither pointer is owned. The element must be deleted before \a item.
-     */
-    CartesianChartAxis(QtCharts::QAbstractAxis *axis, QGraphicsItem *item);
     ~CartesianChartAxis() override;
+
+    /// The room the axis needs across and along it; \a constraint is ignored.
+    QSizeF sizeHint(Qt::SizeHint which, const QSizeF &constraint = QSizeF()) const override;
 
     QRectF gridGeometry() const override;
     void setGeometry(const QRectF &axis, const QRectF &grid) override;
@@ -56,6 +55,9 @@ public:
 
     /// The minor label texts currently shown.
     QStringList minorLabels() const { return m_minorLabels; }
+    /// Replaces the minor label texts shown from the next placement of the items on; as
+    /// ChartAxisElement::setLabels() does for the major labels.
+    void setMinorLabels(const QStringList &labels) { m_minorLabels = labels; }
 
     /// The group of the minor labels, one QGraphicsTextItem per minor tick.
     QGraphicsItemGroup *minorLabelGroup() const { return m_minorLabelGroup; }
@@ -89,22 +91,33 @@ public Q_SLOTS:
     void handleMinorLabelsColorChanged(QColor color);
 
 protected:
+    /**
+     * \brief The element of \a axis lying in \a orientation, with \a item as parent of all
+     *        its items.
+     *
+     * Neither pointer is owned. The element must be deleted before \a item.
+     */
+    CartesianChartAxis(Qt::Orientation orientation, QtCharts::QAbstractAxis *axis, QGraphicsItem *item);
+
     QVector<qreal> calculateLayout() const override;
     void updateLayout(QVector<qreal> &layout) override;
 
-    /// Shows the labels of the last tick computation; subclasses call it first, then place the
-    /// items.
+    /// Shows the labels of the last tick computation and places every item.
     void updateGeometry() override;
 
+private:
     /// Places the grid line, tick mark and label of the tick at axis value \a value, the label
-    /// showing \a text within \a maxWidth x \a maxHeight.
-    virtual void layoutTick(QGraphicsLineItem *gridItem, QGraphicsLineItem *tickItem,
-                            QGraphicsTextItem *labelItem, const QString &text, qreal value,
-                            qreal maxWidth, qreal maxHeight) = 0;
+    /// showing \a text within \a labelLimit.
+    void layoutTick(QGraphicsLineItem *gridItem, QGraphicsLineItem *tickItem, QGraphicsTextItem *labelItem,
+                    const QString &text, qreal value, const QSizeF &labelLimit);
 
-    /// Runs layoutTick() for every major tick, then for every minor tick, with the label size
-    /// limits for each kind.
-    void layoutTicks(const QSizeF &majorLabelLimit, const QSizeF &minorLabelLimit);
+    /// Places the title across the axis from the plot; what room it leaves for the labels of
+    /// \a availableSpace.
+    qreal layoutTitle(qreal availableSpace);
+
+    /// Where the tick at axis value \a value lies along the axis, in chart coordinates; always
+    /// a finite position that whole-pixel rounding can take, however wide or degenerate the range.
+    qreal tickPosition(qreal value) const;
 
     /// Shows \a text in \a label, truncated to \a maxWidth x \a maxHeight; an empty text is
     /// shown as nothing. Returns the bounding rectangle of the truncated text (empty for an
@@ -120,7 +133,6 @@ protected:
     /// costly part of every layout pass and most labels keep their texts from pass to pass.
     QRectF labelBoundingRect(const QString &text, qreal angle) const;
 
-private:
     void updateTicks(QVector<qreal> &ticks, QVector<qreal> &subTicks, QStringList &labels,
                      QStringList &subLabels) const;
     void createItems(int count);
@@ -141,6 +153,7 @@ private:
         QRectF rect;
     };
 
+    const Qt::Orientation m_orientation;
     QGraphicsItemGroup *m_minorLabelGroup;
     QStringList m_minorLabels;
     QRectF m_gridRect;
