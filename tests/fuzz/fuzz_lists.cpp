@@ -94,6 +94,7 @@ public:
     }
 
 private:
+    // A new button, or one of those made before, which may have been deleted since (null then).
     QPushButton *consumeButton()
     {
         if (pool.empty() || (pool.size() < 8 && data.ConsumeIntegralInRange<int>(0, 3) == 0)) {
@@ -221,6 +222,8 @@ private:
         case 8:
         case 9: {
             QPushButton *button = consumeButton();
+            if (!button)
+                break; // deleted by the application earlier
             const bool wasChecked = button->isChecked();
             const bool click = data.ConsumeBool();
             KO_FUZZ_TRACE("%s->%s\n", qPrintable(name(button)), click ? "click()" : wasChecked ? "setChecked(false)" : "setChecked(true)");
@@ -344,6 +347,7 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
     fuzz::createApplication();
     fuzz::expectWarnings({"ListWidget::addItem: cannot add null widget", "ListWidget::addItem: widget already in the list",
+                          "ListWidget::addItem: widget already in another list",
                           "ListWidget::addItem: widget not in the list", "ListWidget::removeItem: cannot remove null widget"});
     return 0;
 }
