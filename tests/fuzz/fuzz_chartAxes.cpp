@@ -207,7 +207,7 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***)
                           "Invalid range for logarithmic axis", "log base has to be greater than zero",
                           "sub tick count can't be negative", "formatLabel: ignoring",
                           // Qt refusing a range this target sets directly.
-                          "Ignored NaN, Inf, or -Inf value."});
+                          "Ignored NaN, Inf, or -Inf value.", "Attempting to set invalid range"});
     return 0;
 }
 
