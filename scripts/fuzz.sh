@@ -53,7 +53,7 @@ for name in "${targets[@]}"; do
   # the regression inputs stop a target at once until their defect is fixed, and CTest has
   # replayed them above.
   find "$repo/tests/fuzz/corpus/$name" -name 'seed-*' -exec cp {} "$scratch/" \;
-  if ! "$build/tests/fuzz/fuzz_$name" -max_total_time="$seconds" -max_len=2048 -timeout=20 -print_final_stats=1 \
+  if ! "$build/tests/fuzz/fuzz_$name" -max_total_time="$seconds" -max_len=2048 -timeout=20 -report_slow_units=1 -print_final_stats=1 \
       -artifact_prefix="$crashes/" "$scratch" >"$log" 2>&1; then
     result="FAILED: $(grep -m1 -E 'rule broken|runtime error|ERROR: (AddressSanitizer|libFuzzer)' "$log" || echo "see $log")"
     grep -m1 -A1 'rule broken' "$log" | tail -n 1 || true
@@ -62,7 +62,8 @@ for name in "${targets[@]}"; do
   fi
   executions=$(awk '/stat::number_of_executed_units/ {print $2}' "$log")
   slowest=$(awk '/stat::slowest_unit_time_sec/ {print $2}' "$log")
-  # libFuzzer counts whole seconds; replaying every input it kept gives milliseconds.
+  # libFuzzer counts whole seconds (from 1 s on, with -report_slow_units=1); replaying every
+  # input it kept gives milliseconds.
   longest=$(find "$scratch" -type f -print0 \
       | xargs -0 -r -n 200 "$build/tests/fuzz/fuzz_$name" -timeout=20 2>&1 \
       | awk '/^Executed .* in [0-9]+ ms/ {ms = $(NF - 1); if (ms > max) max = ms} END {print max + 0}' || true)
