@@ -5,7 +5,15 @@ if(KO_QTTOOLKIT_DEVELOPER_MODE)
     add_compile_options(-Werror)
 endif()
 
-if(KO_QTTOOLKIT_SANITIZERS)
+if(KO_QTTOOLKIT_FUZZ)
+    if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        message(FATAL_ERROR "KO_QTTOOLKIT_FUZZ needs clang's libFuzzer: configure with CXX=clang++")
+    endif()
+    # The library is instrumented for coverage; only the fuzz targets link libFuzzer's main.
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
+if(KO_QTTOOLKIT_SANITIZERS OR KO_QTTOOLKIT_FUZZ)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
 endif()

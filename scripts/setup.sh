@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs everything the library, its tests, benchmarks and gallery need on Debian 12,
-# and stages the Qt Charts private headers of the installed Qt Charts version.
+# and stages the Qt Charts private headers of the installed Qt Charts version. With --fuzz it
+# also installs clang and its libFuzzer runtime, which only scripts/fuzz.sh needs.
 # Idempotent and non-interactive: a second run only checks and returns.
 set -euo pipefail
 
@@ -19,6 +20,9 @@ packages=(
   # benchmark-only peers; the build works without them
   libqcustomplot-dev libqwt-qt5-dev
 )
+if [ "${1:-}" = "--fuzz" ]; then
+  packages+=(clang libclang-rt-14-dev)
+fi
 
 missing=()
 for p in "${packages[@]}"; do
