@@ -47,6 +47,21 @@ int decimalsOf(const QString &text)
 
 // Whether [bottom, top] holds a number with \a decimals decimals, when that can be told exactly
 // in doubles; false when it cannot.
+// Fixing up a fixed-up text again gives the same value. The sign of a zero may go: a value that
+// rounds to zero from below is written "-0", as QString::number writes it, and -0 itself as "0".
+bool stableFixup(const QValidator &validator, const QString &fixed)
+{
+    QString again = fixed;
+    validator.fixup(again);
+    if (again == fixed)
+        return true;
+    bool ok = false;
+    bool okAgain = false;
+    const double value = fixed.toDouble(&ok);
+    const double valueAgain = again.toDouble(&okAgain);
+    return ok && okAgain && value == 0.0 && valueAgain == 0.0;
+}
+
 bool holdsDecimalNumber(double bottom, double top, int decimals)
 {
     const double scale = std::pow(10.0, decimals);
@@ -105,9 +120,7 @@ void checkDoubleValidator(FuzzedDataProvider &data, const QString &input)
                       QStringLiteral("fixup of ") + input + QStringLiteral(" gave ") + fixed + settings);
         KO_FUZZ_CHECK(decimalsOf(fixed) == (d == 0 ? -1 : d),
                       QStringLiteral("fixup of ") + input + QStringLiteral(" gave ") + fixed + settings);
-        QString again = fixed;
-        validator.fixup(again);
-        KO_FUZZ_CHECK(again == fixed, QStringLiteral("fixup of ") + fixed + QStringLiteral(" gave ") + again + settings);
+        KO_FUZZ_CHECK(stableFixup(validator, fixed), QStringLiteral("fixup of ") + fixed + QStringLiteral(" not stable") + settings);
         if (locale == QLocale::c()) {
             int p = 0;
             KO_FUZZ_CHECK(validator.validate(fixed, p) == QValidator::Acceptable,
@@ -149,9 +162,7 @@ void checkIntValidator(FuzzedDataProvider &data, const QString &input)
         KO_FUZZ_CHECK(validator.validate(fixed, p) == QValidator::Acceptable,
                       QStringLiteral("refused its own fixup ") + fixed + settings);
     }
-    QString again = fixed;
-    validator.fixup(again);
-    KO_FUZZ_CHECK(again == fixed, QStringLiteral("fixup of ") + fixed + QStringLiteral(" gave ") + again + settings);
+    KO_FUZZ_CHECK(stableFixup(validator, fixed), QStringLiteral("fixup of ") + fixed + QStringLiteral(" not stable") + settings);
 }
 
 } // namespace

@@ -75,6 +75,7 @@ private Q_SLOTS:
     void dragEmitsData();
     void unboundedRangePaints();
     void decimalsBeyondADoubleAreBounded();
+    void limitsThatAreNotANumberAreRefused();
     void labels_data();
     void labels();
 };
@@ -290,6 +291,22 @@ void tst_GenericDataFader::decimalsBeyondADoubleAreBounded()
     QCOMPARE(fader.getNumberOfDecimals(), 17u);
     fader.setNumberOfDecimals(16u);
     QCOMPARE(fader.getNumberOfDecimals(), 16u);
+}
+
+void tst_GenericDataFader::limitsThatAreNotANumberAreRefused()
+{
+    GenericDataFader fader(Qt::Vertical);
+    fader.setMinimumData(-5.0f);
+    fader.setMaximumData(5.0f);
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    QTest::ignoreMessage(QtWarningMsg, "GenericDataFader::setMinimumData: ignoring a limit that is not a number");
+    fader.setMinimumData(nan);
+    QTest::ignoreMessage(QtWarningMsg, "GenericDataFader::setMaximumData: ignoring a limit that is not a number");
+    fader.setMaximumData(nan);
+    QCOMPARE(fader.getMinimumData(), -5.0f);
+    QCOMPARE(fader.getMaximumData(), 5.0f);
+    QCOMPARE(fader.minimum(), -50);
+    QCOMPARE(fader.maximum(), 50);
 }
 
 void tst_GenericDataFader::labels_data()

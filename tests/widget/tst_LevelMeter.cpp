@@ -98,6 +98,7 @@ private Q_SLOTS:
     void setLevel_data();
     void setLevel();
     void setLevelFollowsTheProgressBarRange();
+    void levelRangeNearTheFloatLimits();
     void mappings();
     void mapValueToPixelsUsesTheFullExtent_data();
     void mapValueToPixelsUsesTheFullExtent();
@@ -205,6 +206,19 @@ void tst_LevelMeter::setLevel()
     QCOMPARE(meter.value(), value);
     QCOMPARE(values.count(), 1);
     QCOMPARE(values.at(0).at(0).toInt(), value);
+}
+
+// Near the limits of float the mapping's product overflows; the meter still maps exactly.
+void tst_LevelMeter::levelRangeNearTheFloatLimits()
+{
+    LevelMeter meter;
+    meter.setRange(0, 100);
+    meter.setLevelRange(-1e38f, 2e38f);
+    QCOMPARE(meter.mapLevelToValue(0.0f), 33);
+    meter.setLevel(0.0f);
+    QCOMPARE(meter.value(), 33);
+    meter.setLevel(2e38f);
+    QCOMPARE(meter.value(), 100);
 }
 
 void tst_LevelMeter::setLevelFollowsTheProgressBarRange()

@@ -24,6 +24,16 @@ constexpr int labelWidth = 24;
 constexpr int labelHeight = 12;
 constexpr int labelFontPointSize = 8;
 
+// A range end is an argument: NaN is refused, while an infinite end saturates the slider (an
+// attenuation down to -inf dB).
+bool isDataLimit(const char *function, float limit)
+{
+    if (!std::isnan(limit))
+        return true;
+    qWarning("GenericDataFader::%s: ignoring a limit that is not a number", function);
+    return false;
+}
+
 } // namespace
 
 GenericDataFader::GenericDataFader(Qt::Orientation orientation, QWidget *parent)
@@ -53,6 +63,8 @@ float GenericDataFader::getMinimumData() const
 
 void GenericDataFader::setMinimumData(float minimum)
 {
+    if (!isDataLimit("setMinimumData", minimum))
+        return;
     d->minimumData = minimum;
     updateFaderRange();
 }
@@ -64,6 +76,8 @@ float GenericDataFader::getMaximumData() const
 
 void GenericDataFader::setMaximumData(float maximum)
 {
+    if (!isDataLimit("setMaximumData", maximum))
+        return;
     d->maximumData = maximum;
     updateFaderRange();
 }

@@ -45,13 +45,15 @@ public:
     /// \brief The lower end of the data range; 0 by default.
     float getMinimumData() const;
 
-    /// \brief Sets the lower end of the data range and updates the slider's range.
+    /// \brief Sets the lower end of the data range and updates the slider's range; NaN is refused
+    ///        with a warning, an infinite end saturates the slider's range.
     void setMinimumData(float minimum);
 
     /// \brief The upper end of the data range; 10 by default.
     float getMaximumData() const;
 
-    /// \brief Sets the upper end of the data range and updates the slider's range.
+    /// \brief Sets the upper end of the data range and updates the slider's range; NaN is refused
+    ///        with a warning, an infinite end saturates the slider's range.
     void setMaximumData(float maximum);
 
     /// \brief The number of decimals kept; 1 by default.

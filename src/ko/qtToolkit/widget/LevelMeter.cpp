@@ -205,7 +205,14 @@ int LevelMeter::mapLevelToValue(float level) const
 {
     const auto vmin = static_cast<float>(minimum());
     const auto vmax = static_cast<float>(maximum());
-    return common::truncatedToInt((vmax - vmin) * (level - d->minimumLevel) / (d->maximumLevel - d->minimumLevel) + vmin);
+    const float mapped = (vmax - vmin) * (level - d->minimumLevel) / (d->maximumLevel - d->minimumLevel) + vmin;
+    if (std::isfinite(mapped) || std::isnan(mapped))
+        return common::truncatedToInt(mapped);
+    // A level range near the limits of float overflows in the product, which double holds.
+    const double exact = (double(vmax) - vmin) * (double(level) - d->minimumLevel)
+            / (double(d->maximumLevel) - d->minimumLevel)
+        + vmin;
+    return common::truncatedToInt(float(exact));
 }
 
 float LevelMeter::mapLevelToPercentage(float level) const
