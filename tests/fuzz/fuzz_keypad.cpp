@@ -38,7 +38,8 @@ bool showsNumber(const QString &text)
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
     fuzz::createApplication();
-    fuzz::expectWarnings({});
+    // A validator's NaN bottom or top reaches the keypad's data fader, which refuses it.
+    fuzz::expectWarnings({"GenericDataFader::setMinimumData: ignoring", "GenericDataFader::setMaximumData: ignoring"});
     return 0;
 }
 

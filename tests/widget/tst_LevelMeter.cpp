@@ -99,6 +99,7 @@ private Q_SLOTS:
     void setLevel();
     void setLevelFollowsTheProgressBarRange();
     void levelRangeNearTheFloatLimits();
+    void barRangeNearTheIntLimits();
     void mappings();
     void mapValueToPixelsUsesTheFullExtent_data();
     void mapValueToPixelsUsesTheFullExtent();
@@ -219,6 +220,20 @@ void tst_LevelMeter::levelRangeNearTheFloatLimits()
     QCOMPARE(meter.value(), 33);
     meter.setLevel(2e38f);
     QCOMPARE(meter.value(), 100);
+}
+
+// Single precision rounds the ends of a bar range near the int limits outwards; a level inside
+// the level range still maps inside the bar's range, which QProgressBar requires.
+void tst_LevelMeter::barRangeNearTheIntLimits()
+{
+    LevelMeter meter;
+    meter.setRange(-2147483647, 2147483647);
+    QCOMPARE(meter.mapLevelToValue(-60.0f), -2147483647);
+    QCOMPARE(meter.mapLevelToValue(15.0f), 2147483647);
+    meter.setLevel(15.0f);
+    QCOMPARE(meter.value(), 2147483647);
+    meter.setLevel(-60.0f);
+    QCOMPARE(meter.value(), -2147483647);
 }
 
 void tst_LevelMeter::setLevelFollowsTheProgressBarRange()

@@ -205,14 +205,19 @@ int LevelMeter::mapLevelToValue(float level) const
 {
     const auto vmin = static_cast<float>(minimum());
     const auto vmax = static_cast<float>(maximum());
-    const float mapped = (vmax - vmin) * (level - d->minimumLevel) / (d->maximumLevel - d->minimumLevel) + vmin;
-    if (std::isfinite(mapped) || std::isnan(mapped))
-        return common::truncatedToInt(mapped);
+    float mapped = (vmax - vmin) * (level - d->minimumLevel) / (d->maximumLevel - d->minimumLevel) + vmin;
     // A level range near the limits of float overflows in the product, which double holds.
-    const double exact = (double(vmax) - vmin) * (double(level) - d->minimumLevel)
-            / (double(d->maximumLevel) - d->minimumLevel)
-        + vmin;
-    return common::truncatedToInt(float(exact));
+    if (std::isinf(mapped)) {
+        mapped = float((double(vmax) - vmin) * (double(level) - d->minimumLevel)
+                           / (double(d->maximumLevel) - d->minimumLevel)
+                       + vmin);
+    }
+    const int value = common::truncatedToInt(mapped);
+    // A level inside the level range maps inside the bar's range; single precision can round a
+    // bar range near the int limits past its ends, where QProgressBar would ignore the value.
+    if (level >= d->minimumLevel && level <= d->maximumLevel)
+        return std::clamp(value, minimum(), maximum());
+    return value;
 }
 
 float LevelMeter::mapLevelToPercentage(float level) const
