@@ -55,6 +55,15 @@ public:
     int information(QWidget &, const QString &, const QString &, QMessageBox::Icon) const override { return 1; }
 };
 
+class Table : public ko::qtToolkit::widget::TableWidget
+{
+protected:
+    QSize headerSectionSize(Qt::Orientation orientation) const override
+    {
+        return orientation == Qt::Horizontal ? QSize(80, 32) : QSize(48, 32);
+    }
+};
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -99,7 +108,7 @@ int main(int argc, char *argv[])
     auto *elidedButton = new widget::ElidedButton(QStringLiteral("a button too long to be shown in full"));
     auto *list = new widget::ListWidget;
     list->addItems({QStringLiteral("first"), QStringLiteral("second")});
-    auto *table = new widget::TableWidget;
+    auto *table = new Table;
     table->setRowCount(2);
     table->setColumnCount(2);
     auto *wrapper = new widget::listWithButtons::ListWrapper(QStringLiteral("list"));
