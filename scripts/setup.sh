@@ -3,6 +3,8 @@
 # and stages the Qt Charts private headers of the installed Qt Charts version. With --fuzz it
 # also installs clang and its libFuzzer runtime, which only scripts/fuzz.sh needs.
 # Idempotent and non-interactive: a second run only checks and returns.
+#
+# KO_QT_MAJOR=6 sets up for Qt 6 instead of Qt 5.15 (the default).
 set -euo pipefail
 
 repo=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -24,6 +26,22 @@ if [ "${1:-}" = "--fuzz" ]; then
   packages+=(clang libclang-rt-14-dev)
 fi
 
+qt_major=${KO_QT_MAJOR:-5}
+case "$qt_major" in
+  5) ;;
+  6)
+    # Qt 6 in place of Qt 5; QCustomPlot's development package carries both builds, and Debian
+    # ships Qwt for Qt 5 only, so the benchmarks compare with it on Qt 5 alone.
+    packages=(
+      g++ cmake ninja-build pkg-config dpkg-dev
+      qt6-base-dev qt6-base-private-dev qt6-charts-dev qt6-svg-dev libqt6opengl6-dev
+      libbenchmark-dev fonts-dejavu-core xvfb xauth
+      abigail-tools
+      libqcustomplot-dev
+    ) ;;
+  *) echo "setup: KO_QT_MAJOR must be 5 or 6, not $qt_major" >&2; exit 2 ;;
+esac
+
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")
@@ -40,6 +58,10 @@ if [ ${#missing[@]} -gt 0 ]; then
   echo "setup: installing ${missing[*]}"
   apt_update
   "${sudo[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+fi
+
+if [ "$qt_major" = 6 ]; then
+  exec "$repo/scripts/stage-qt6-charts-private.sh"
 fi
 
 # Qt Charts ships no private headers in Debian: take them from the source package of exactly

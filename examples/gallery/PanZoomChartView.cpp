@@ -13,6 +13,20 @@ namespace gallery {
 
 namespace charts = ko::qtToolkit::charts;
 
+namespace {
+
+// Qt 6 renamed QMouseEvent::localPos() to position().
+QPointF positionOf(const QMouseEvent &event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event.position();
+#else
+    return event.localPos();
+#endif
+}
+
+} // namespace
+
 PanZoomChartView::PanZoomChartView(QtCharts::QChart *chart, QtCharts::QAbstractAxis *horizontal,
                                    const AxisLimits &horizontalLimits, QtCharts::QAbstractAxis *vertical,
                                    const AxisLimits &verticalLimits, QWidget *parent)
@@ -33,7 +47,7 @@ void PanZoomChartView::mousePressEvent(QMouseEvent *event)
         return;
     }
     m_dragging = true;
-    m_last = chartPoint(event->localPos());
+    m_last = chartPoint(positionOf(*event));
     reportValuesAt(m_last);
     setCursor(Qt::ClosedHandCursor);
     event->accept();
@@ -41,7 +55,7 @@ void PanZoomChartView::mousePressEvent(QMouseEvent *event)
 
 void PanZoomChartView::mouseMoveEvent(QMouseEvent *event)
 {
-    const QPointF point = chartPoint(event->localPos());
+    const QPointF point = chartPoint(positionOf(*event));
     if (m_dragging) {
         // The value under the pointer stays under it: the axes move by what lies between the
         // last position and this one.

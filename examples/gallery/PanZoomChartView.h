@@ -1,13 +1,12 @@
 #ifndef KO_QTTOOLKIT_GALLERY_PANZOOMCHARTVIEW_H
 #define KO_QTTOOLKIT_GALLERY_PANZOOMCHARTVIEW_H
 
+#include <ko/qtToolkit/charts/QtChartsNamespace.h>
+
+#include <QtCharts/QAbstractAxis>
 #include <QtCharts/QChartView>
 
 #include <functional>
-
-namespace QtCharts {
-class QAbstractAxis;
-}
 
 namespace gallery {
 

@@ -1,5 +1,7 @@
 #include <ko/qtToolkit/behavior/Draggable.h>
 
+#include <ko/qtToolkit/common/EventPosition_p.h>
+
 #include <QEvent>
 #include <QMouseEvent>
 #include <QWidget>
@@ -59,7 +61,7 @@ bool DraggablePrivate::mouseEvent(const QMouseEvent &event)
     switch (event.type()) {
     case QEvent::MouseButtonPress:
         if (event.button() == Qt::LeftButton && widget->rect().contains(event.pos())) {
-            lastGlobalPosition = event.globalPos();
+            lastGlobalPosition = common::globalPoint(event);
             dragging = true;
         }
         break;
@@ -71,8 +73,8 @@ bool DraggablePrivate::mouseEvent(const QMouseEvent &event)
         break;
     case QEvent::MouseMove:
         if (dragging) {
-            constrainedMove(widget->pos() + (event.globalPos() - lastGlobalPosition));
-            lastGlobalPosition = event.globalPos();
+            constrainedMove(widget->pos() + (common::globalPoint(event) - lastGlobalPosition));
+            lastGlobalPosition = common::globalPoint(event);
         }
         break;
     default:

@@ -161,7 +161,7 @@ void CartesianChartAxis::setGeometry(const QRectF &axis, const QRectF &grid)
 {
     setAxisGeometry(axis);
     m_gridRect = grid;
-    if (isEmpty()) {
+    if (hasNothingToDraw()) {
         prepareGeometryChange();
         return;
     }
@@ -169,7 +169,12 @@ void CartesianChartAxis::setGeometry(const QRectF &axis, const QRectF &grid)
     updateLayout(layout);
 }
 
-bool CartesianChartAxis::isEmpty()
+bool CartesianChartAxis::KO_CHARTAXISELEMENT_IS_EMPTY
+{
+    return hasNothingToDraw();
+}
+
+bool CartesianChartAxis::hasNothingToDraw() const
 {
     const QRectF axisRect = axisGeometry();
     const QRectF gridRect = gridGeometry();
@@ -223,7 +228,7 @@ QVector<qreal> CartesianChartAxis::calculateLayout() const
     return layout;
 }
 
-void CartesianChartAxis::updateLayout(QVector<qreal> &layout)
+void CartesianChartAxis::updateLayout(AxisLayoutArgument layout)
 {
     const int diff = m_majorTickValues.size() - gridItems().size();
     if (diff < 0)

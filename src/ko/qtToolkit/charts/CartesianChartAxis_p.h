@@ -1,6 +1,7 @@
 #ifndef KO_QTTOOLKIT_CHARTS_CARTESIANCHARTAXIS_P_H
 #define KO_QTTOOLKIT_CHARTS_CARTESIANCHARTAXIS_P_H
 
+#include <ko/qtToolkit/charts/QtChartsCompat_p.h>
 #include <ko/qtToolkit/qtToolkit_export.h>
 
 #include <QColor>
@@ -46,7 +47,7 @@ public:
 
     QRectF gridGeometry() const override;
     void setGeometry(const QRectF &axis, const QRectF &grid) override;
-    bool isEmpty() override;
+    bool KO_CHARTAXISELEMENT_IS_EMPTY override;
 
     /// Axis values of the major ticks of the last layout pass.
     const QVector<qreal> &majorTickValues() const { return m_majorTickValues; }
@@ -100,7 +101,7 @@ protected:
     CartesianChartAxis(Qt::Orientation orientation, QtCharts::QAbstractAxis *axis, QGraphicsItem *item);
 
     QVector<qreal> calculateLayout() const override;
-    void updateLayout(QVector<qreal> &layout) override;
+    void updateLayout(AxisLayoutArgument layout) override;
 
     /// Shows the labels of the last tick computation and places every item.
     void updateGeometry() override;
@@ -124,6 +125,9 @@ private:
     /// empty text).
     QRectF setLabelText(QGraphicsTextItem *label, const QString &text, qreal maxWidth,
                         qreal maxHeight) const;
+
+    /// Whether the axis or its grid has no extent, or its range is a single value.
+    bool hasNothingToDraw() const;
 
     /// Whether the axis has a title and shows it.
     bool isTitleShown() const;

@@ -4,7 +4,7 @@
 #include <ko/qtToolkit/qtToolkit_export.h>
 
 #include <QPair>
-#include <QtCharts/QChartGlobal>
+#include <ko/qtToolkit/charts/QtChartsCompat_p.h>
 
 QT_CHARTS_BEGIN_NAMESPACE
 class ChartAxisElement;

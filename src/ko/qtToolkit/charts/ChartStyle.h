@@ -3,7 +3,7 @@
 
 #include <ko/qtToolkit/qtToolkit_export.h>
 
-#include <QtCharts/QChartGlobal>
+#include <ko/qtToolkit/charts/QtChartsNamespace.h>
 
 QT_CHARTS_BEGIN_NAMESPACE
 class QAbstractAxis;

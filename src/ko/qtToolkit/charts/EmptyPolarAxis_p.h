@@ -1,6 +1,7 @@
 #ifndef KO_QTTOOLKIT_CHARTS_EMPTYPOLARAXIS_P_H
 #define KO_QTTOOLKIT_CHARTS_EMPTYPOLARAXIS_P_H
 
+#include <ko/qtToolkit/charts/QtChartsCompat_p.h>
 #include <ko/qtToolkit/qtToolkit_export.h>
 
 #include <QtCharts/private/polarchartaxis_p.h>

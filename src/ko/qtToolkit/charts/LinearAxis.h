@@ -1,6 +1,7 @@
 #ifndef KO_QTTOOLKIT_CHARTS_LINEARAXIS_H
 #define KO_QTTOOLKIT_CHARTS_LINEARAXIS_H
 
+#include <ko/qtToolkit/charts/QtChartsNamespace.h>
 #include <ko/qtToolkit/qtToolkit_export.h>
 
 #include <QColor>

@@ -1,6 +1,7 @@
 #ifndef KO_QTTOOLKIT_CHARTS_LOGARITHMICAXIS_H
 #define KO_QTTOOLKIT_CHARTS_LOGARITHMICAXIS_H
 
+#include <ko/qtToolkit/charts/QtChartsNamespace.h>
 #include <ko/qtToolkit/qtToolkit_export.h>
 
 #include <QColor>

@@ -1,5 +1,8 @@
 #include <ko/qtToolkit/widget/ComboBox.h>
 
+#include <ko/qtToolkit/common/EventPosition_p.h>
+#include <ko/qtToolkit/widget/ItemViewOption_p.h>
+
 #include <QEvent>
 #include <QFont>
 #include <QLinearGradient>
@@ -95,11 +98,11 @@ void paintBand(QPainter &painter, const QRect &band, QPointF opaqueEdge, QPointF
 
 // The pop-up list: no scroll bars, fading bands where there is more to scroll, items across
 // the full width, the combo box's font.
-class ComboBoxListView : public QListView
+class ComboBoxListView : public ItemViewOption<QListView>
 {
 public:
     explicit ComboBoxListView(ComboBox *comboBox)
-        : QListView(comboBox)
+        : ItemViewOption<QListView>(comboBox)
         , m_comboBox(comboBox)
     {
     }
@@ -108,7 +111,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override
     {
         // Repaint as soon as the finger reaches another item, so the highlight keeps up.
-        const QModelIndex index = indexAt(event->localPos().toPoint());
+        const QModelIndex index = indexAt(common::localPosition(*event).toPoint());
         if (index != m_hoveredIndex) {
             m_hoveredIndex = index;
             viewport()->update();
@@ -142,12 +145,10 @@ protected:
         QListView::resizeEvent(event);
     }
 
-    QStyleOptionViewItem viewOptions() const override
+    void adjustItemOption(QStyleOptionViewItem &option) const override
     {
-        QStyleOptionViewItem option = QListView::viewOptions();
         option.showDecorationSelected = true;
         option.font = m_comboBox->font();
-        return option;
     }
 
 private:

@@ -1,5 +1,7 @@
 #include <ko/qtToolkit/widget/Fader.h>
 
+#include <ko/qtToolkit/common/EventPosition_p.h>
+
 #include <QMouseEvent>
 #include <QStyle>
 #include <QStyleOptionSlider>
@@ -66,6 +68,9 @@ bool FaderPrivate::eventFilter(QObject *watched, QEvent *event)
         release();
         return false;
     case QEvent::Wheel:
+        // Consumed so that QSlider does not move, but ignored so that it goes on to the parent
+        // widget. Qt 6 hands the event over accepted where Qt 5 had ignored it already.
+        event->ignore();
         return true;
     default:
         return false;
@@ -77,7 +82,7 @@ bool FaderPrivate::press(QMouseEvent *event)
     QStyleOptionSlider option;
     q->initStyleOption(&option);
     const QRect handle = q->style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, q);
-    const QPoint position(qRound(event->localPos().x()), qRound(event->localPos().y()));
+    const QPoint position(qRound(common::localPosition(*event).x()), qRound(common::localPosition(*event).y()));
     if (event->button() != Qt::LeftButton || !handle.contains(position)) {
         // Consumed so that QSlider does not jump to the press, but ignored so that it goes on
         // to the parent widget.
