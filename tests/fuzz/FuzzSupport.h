@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QByteArray>
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 
@@ -17,6 +18,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
+#include <vector>
 #include <cstdlib>
 #include <cstring>
 #include <initializer_list>
@@ -172,6 +174,30 @@ inline QString consumeText(FuzzedDataProvider &data, const char *alphabet, std::
 inline QString show(double value)
 {
     return QString::number(value, 'g', 17);
+}
+
+/// Deletes what \a pool still holds that no parent owns: what the application kept.
+template<typename Widget>
+void deleteUnowned(const std::vector<QPointer<Widget>> &pool)
+{
+    for (const QPointer<Widget> &widget : pool) {
+        if (widget && !widget->parent())
+            delete widget.data();
+    }
+}
+
+/// Runs \a step, then \a check, for up to \a maximum operations while input is left; then lets
+/// deferred deletions and layouts happen and checks once more.
+template<typename Step, typename Check>
+void runOperations(FuzzedDataProvider &data, int maximum, Step step, Check check)
+{
+    const int operations = data.ConsumeIntegralInRange<int>(1, maximum);
+    for (int i = 0; i < operations && data.remaining_bytes() > 0; ++i) {
+        step();
+        check();
+    }
+    settle();
+    check();
 }
 
 } // namespace ko::qtToolkit::fuzz

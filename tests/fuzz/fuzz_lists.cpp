@@ -72,24 +72,12 @@ public:
         KO_FUZZ_CHECK(next && previous, QStringLiteral("a navigator list has both buttons"));
     }
 
-    ~Session()
-    {
-        // The lists delete what they hold; the rest is the application's.
-        for (const QPointer<QPushButton> &button : pool) {
-            if (button && !button->parent())
-                delete button.data();
-        }
-    }
+    // The lists delete what they hold; the rest is the application's.
+    ~Session() { fuzz::deleteUnowned(pool); }
 
     void run()
     {
-        const int operations = data.ConsumeIntegralInRange<int>(1, 48);
-        for (int i = 0; i < operations && data.remaining_bytes() > 0; ++i) {
-            step();
-            checkLists();
-        }
-        fuzz::settle();
-        checkLists();
+        fuzz::runOperations(data, 48, [this] { step(); }, [this] { checkLists(); });
         checkNavigators();
     }
 

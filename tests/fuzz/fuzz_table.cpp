@@ -64,24 +64,9 @@ public:
             table.show();
     }
 
-    ~Session()
-    {
-        for (const QPointer<QWidget> &widget : pool) {
-            if (widget && !widget->parent())
-                delete widget.data();
-        }
-    }
+    ~Session() { fuzz::deleteUnowned(pool); }
 
-    void run()
-    {
-        const int operations = data.ConsumeIntegralInRange<int>(1, 40);
-        for (int i = 0; i < operations && data.remaining_bytes() > 0; ++i) {
-            step();
-            checkOwnership();
-        }
-        fuzz::settle();
-        checkOwnership();
-    }
+    void run() { fuzz::runOperations(data, 40, [this] { step(); }, [this] { checkOwnership(); }); }
 
 private:
     QWidget *consumeWidget()

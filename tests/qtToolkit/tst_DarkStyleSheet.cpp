@@ -158,10 +158,7 @@ private Q_SLOTS:
 
     void storedZlibCompressed()
     {
-        const QResource resource(QStringLiteral(":/ko/qtToolkit-dark.qss"));
-        QVERIFY(resource.isValid());
-        QCOMPARE(resource.compressionAlgorithm(), QResource::ZlibCompression);
-        QVERIFY(resource.size() < resource.uncompressedSize());
+        QVERIFY(ko::qtToolkit::test::isStoredZlibCompressed(QStringLiteral(":/ko/qtToolkit-dark.qss")));
     }
 
     void exactlyTheDarkFilesUnderKo()

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFont>
 #include <QImage>
+#include <QResource>
 #include <QString>
 #include <QStringList>
 
@@ -91,6 +92,14 @@ private:
     static inline QStringList s_messages;
     QtMessageHandler m_previous;
 };
+
+/// Whether the resource at \a path is stored zlib-compressed, and smaller for it.
+inline bool isStoredZlibCompressed(const QString &path)
+{
+    const QResource resource(path);
+    return resource.isValid() && resource.compressionAlgorithm() == QResource::ZlibCompression
+        && resource.size() < resource.uncompressedSize();
+}
 
 } // namespace ko::qtToolkit::test
 
