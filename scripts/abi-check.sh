@@ -14,7 +14,7 @@
 # 2 when the check itself could not run.
 set -euo pipefail
 repo=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-baseline="$repo/abi/ko_qtToolkit_cxx.abi"
+baseline="$repo/abi/ko_qtToolkit_cxx.abi.gz"
 library=libko_qtToolkit_cxx.so.2
 
 update=
@@ -79,16 +79,19 @@ echo "abi-check: abidw $(elapsed "$start" "$dumped")"
 if [ -n "$update" ]; then
   mkdir -p "$(dirname "$baseline")"
   if [ -f "$baseline" ]; then
-    abidiff --stat "$baseline" "$work/current.abi" || true
+    gzip -d -c "$baseline" >"$work/baseline.abi"
+    abidiff --stat "$work/baseline.abi" "$work/current.abi" || true
   fi
-  cp "$work/current.abi" "$baseline"
+  gzip -9 -n -c "$work/current.abi" >"$baseline"
   echo "abi-check: baseline ${baseline#"$repo"/} refreshed; commit it with the change"
   exit 0
 fi
 [ -f "$baseline" ] || { echo "abi-check: no baseline ${baseline#"$repo"/}; create it with --update" >&2; exit 2; }
+# The baseline is kept compressed: the dump is some megabytes of XML.
+gzip -d -c "$baseline" >"$work/baseline.abi"
 
 status=0
-abidiff "$baseline" "$work/current.abi" >"$work/report" 2>&1 || status=$?
+abidiff "$work/baseline.abi" "$work/current.abi" >"$work/report" 2>&1 || status=$?
 compared=$(milliseconds)
 echo "abi-check: abidiff $(elapsed "$dumped" "$compared")"
 
@@ -116,7 +119,7 @@ fi
 # break applications just as surely: only a change that is nothing but additions passes. With
 # the added functions and variables left out, such a change leaves nothing behind.
 remaining=0
-abidiff --no-added-syms "$baseline" "$work/current.abi" >/dev/null 2>&1 || remaining=$?
+abidiff --no-added-syms "$work/baseline.abi" "$work/current.abi" >/dev/null 2>&1 || remaining=$?
 if (( remaining & 3 )); then
   echo "abi-check: abidiff failed (status $remaining)" >&2
   exit 2
