@@ -26,6 +26,10 @@
 
 namespace ko::qtToolkit::fuzz {
 
+/// How far from zero a data fader's slider bounds reach: half the int range, so that no two are
+/// 2^31 apart. Data beyond it times the scale saturates there.
+constexpr double sliderLimit = 1073741823.0;
+
 /// A broken rule: print it and abort, so that libFuzzer keeps the input as a crash.
 [[noreturn]] inline void fail(const char *file, int line, const char *condition, const QString &detail)
 {

@@ -211,7 +211,7 @@ void checkDataFader(ProbeDataFader &fader)
                   QStringLiteral("the fader shows the range ") + show(minimum) + QStringLiteral(" to ") + show(maximum));
     KO_FUZZ_CHECK(!std::isnan(value), QStringLiteral("the fader holds ") + show(value));
     const double scale = std::pow(10.0, double(fader.getNumberOfDecimals()));
-    if (minimum <= maximum && std::abs(minimum * scale) < 2e9 && std::abs(maximum * scale) < 2e9) {
+    if (minimum <= maximum && std::abs(minimum * scale) <= fuzz::sliderLimit && std::abs(maximum * scale) <= fuzz::sliderLimit) {
         // The ends are truncated toward zero to whole units of the last decimal.
         const double slack = 1.0 / scale + 1e-6 * std::max({1.0, std::abs(double(minimum)), std::abs(double(maximum))});
         KO_FUZZ_CHECK(value >= minimum - slack && value <= maximum + slack,

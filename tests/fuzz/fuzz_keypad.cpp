@@ -118,7 +118,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t siz
         const double low = fader->getMinimumData();
         const double high = fader->getMaximumData();
         const double scale = std::pow(10.0, double(fader->getNumberOfDecimals()));
-        if (low <= high && std::abs(low * scale) < 2e9 && std::abs(high * scale) < 2e9) {
+        if (low <= high && std::abs(low * scale) <= fuzz::sliderLimit && std::abs(high * scale) <= fuzz::sliderLimit) {
             // The ends are truncated toward zero to whole units of the last decimal.
             const double slack = 1.0 / scale + 1e-6 * std::max({1.0, std::abs(low), std::abs(high)});
             KO_FUZZ_CHECK(value >= low - slack && value <= high + slack,
