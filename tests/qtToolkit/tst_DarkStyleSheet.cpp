@@ -261,19 +261,10 @@ private Q_SLOTS:
         QFETCH(QColor, colour);
         QVERIFY(colour.isValid());
         QCOMPARE(QImageReader(path).size(), QSize(24, 24));
-        const QImage image = QIcon(path).pixmap(24, 24).toImage().convertToFormat(QImage::Format_ARGB32);
-        int covered = 0;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                const QColor pixel = image.pixelColor(x, y);
-                if (pixel.alpha() != 255)
-                    continue;
-                ++covered;
-                QCOMPARE(QColor(pixel.rgb()).name(), colour.name());
-            }
-        }
-        QVERIFY(covered >= 10);
-        QVERIFY(covered < 24 * 24);
+        const ko::qtToolkit::test::IconCoverage coverage = ko::qtToolkit::test::iconCoverage(path, colour);
+        QCOMPARE(coverage.otherColour, 0);
+        QVERIFY(coverage.opaque >= 10);
+        QVERIFY(coverage.opaque < 24 * 24);
     }
 
     void scrollBarArrowsAreLight_data()

@@ -163,20 +163,11 @@ private Q_SLOTS:
         QVERIFY(!icon.isNull());
         QCOMPARE(icon.actualSize(QSize(24, 24)), QSize(24, 24));
 
-        const QImage image = icon.pixmap(24, 24).toImage().convertToFormat(QImage::Format_ARGB32);
-        QCOMPARE(image.size(), QSize(24, 24));
-        int covered = 0;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                const QColor pixel = image.pixelColor(x, y);
-                if (pixel.alpha() != 255)
-                    continue;
-                ++covered;
-                QCOMPARE(QColor(pixel.rgb()).name(), colour.name());
-            }
-        }
-        QVERIFY2(covered >= 10, qPrintable(QStringLiteral("only %1 opaque pixels").arg(covered)));
-        QVERIFY(covered < 24 * 24); // a shape, not a filled square
+        QCOMPARE(icon.pixmap(24, 24).size(), QSize(24, 24));
+        const ko::qtToolkit::test::IconCoverage coverage = ko::qtToolkit::test::iconCoverage(path, colour);
+        QCOMPARE(coverage.otherColour, 0);
+        QVERIFY2(coverage.opaque >= 10, qPrintable(QStringLiteral("only %1 opaque pixels").arg(coverage.opaque)));
+        QVERIFY(coverage.opaque < 24 * 24); // a shape, not a filled square
     }
 
     void scrollBarImages_data()

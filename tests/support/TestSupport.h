@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFont>
+#include <QIcon>
 #include <QImage>
 #include <QResource>
 #include <QString>
@@ -99,6 +100,31 @@ inline bool isStoredZlibCompressed(const QString &path)
     const QResource resource(path);
     return resource.isValid() && resource.compressionAlgorithm() == QResource::ZlibCompression
         && resource.size() < resource.uncompressedSize();
+}
+
+/// The opaque pixels of the icon at \a path drawn at 24 x 24: how many there are, and how many of
+/// them are not \a colour.
+struct IconCoverage
+{
+    int opaque = 0;
+    int otherColour = 0;
+};
+
+inline IconCoverage iconCoverage(const QString &path, const QColor &colour)
+{
+    const QImage image = QIcon(path).pixmap(24, 24).toImage().convertToFormat(QImage::Format_ARGB32);
+    IconCoverage coverage;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor pixel = image.pixelColor(x, y);
+            if (pixel.alpha() != 255)
+                continue;
+            ++coverage.opaque;
+            if (QColor(pixel.rgb()).name() != colour.name())
+                ++coverage.otherColour;
+        }
+    }
+    return coverage;
 }
 
 } // namespace ko::qtToolkit::test

@@ -17,7 +17,8 @@ public:
     int tickCount = 3;
     double tickOrigin = 0.0;
     AxisTicker::TickStepStrategy tickStepStrategy = AxisTicker::FineSteps;
-    QByteArray labelFormat{"%.2f"};
+    // Checked once when set, so that each label only applies it.
+    LabelFormat labelFormat{QByteArrayLiteral("%.2f")};
 };
 
 namespace {
@@ -117,7 +118,7 @@ void AxisTicker::setLabelFormat(const QString &format)
 {
     // The axis element hands its format over at every layout.
     const QByteArray bytes = format.toUtf8();
-    if (bytes == d->labelFormat)
+    if (bytes == d->labelFormat.format())
         return;
     const LabelFormat checked(bytes);
     if (!checked.isValid()) {
@@ -126,7 +127,7 @@ void AxisTicker::setLabelFormat(const QString &format)
                  bytes.constData());
         return;
     }
-    d->labelFormat = checked.format();
+    d->labelFormat = checked;
 }
 
 void AxisTicker::generate(double min, double max, QVector<double> &ticks,
@@ -199,7 +200,7 @@ int AxisTicker::computeSubTickCount(double tickStep) const
 
 QString AxisTicker::tickLabel(double value) const
 {
-    return LabelFormat(d->labelFormat).apply(value);
+    return d->labelFormat.apply(value);
 }
 
 QVector<double> AxisTicker::createTicks(double tickStep, double min, double max) const
