@@ -55,7 +55,9 @@ for name in "${targets[@]}"; do
   find "$repo/tests/fuzz/corpus/$name" -name 'seed-*' -exec cp {} "$scratch/" \;
   # A fixed seed makes a run repeatable: CI fuzzes the same inputs every time, and a new finding
   # comes with a change, not with the luck of a run. KO_FUZZ_SEED=0 lets libFuzzer choose.
-  if ! "$build/tests/fuzz/fuzz_$name" -seed="${KO_FUZZ_SEED:-1}" -max_total_time="$seconds" -max_len=2048 -timeout=20 -report_slow_units=1 -print_final_stats=1 \
+  # An input may lay out thousands of ticks under the sanitizers, seconds on a loaded machine;
+  # only one that runs for a minute counts as a hang.
+  if ! "$build/tests/fuzz/fuzz_$name" -seed="${KO_FUZZ_SEED:-1}" -max_total_time="$seconds" -max_len=2048 -timeout=60 -report_slow_units=1 -print_final_stats=1 \
       -artifact_prefix="$crashes/" "$scratch" >"$log" 2>&1; then
     result="FAILED: $(grep -m1 -E 'rule broken|runtime error|ERROR: (AddressSanitizer|libFuzzer)' "$log" || echo "see $log")"
     grep -m1 -A1 'rule broken' "$log" | tail -n 1 || true
@@ -67,7 +69,7 @@ for name in "${targets[@]}"; do
   # libFuzzer counts whole seconds (from 1 s on, with -report_slow_units=1); replaying every
   # input it kept gives milliseconds.
   longest=$(find "$scratch" -type f -print0 \
-      | xargs -0 -r -n 200 "$build/tests/fuzz/fuzz_$name" -timeout=20 2>&1 \
+      | xargs -0 -r -n 200 "$build/tests/fuzz/fuzz_$name" -timeout=60 2>&1 \
       | awk '/^Executed .* in [0-9]+ ms/ {ms = $(NF - 1); if (ms > max) max = ms} END {print max + 0}' || true)
   rm -rf "$scratch"
   summary+=("$(printf '%-12s %9s executions, slowest unit %s s, longest kept input %s ms: %s' \

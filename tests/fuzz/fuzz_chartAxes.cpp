@@ -57,6 +57,11 @@ Range rangeOf(const QAbstractAxis &axis)
 
 void setRange(QAbstractAxis &axis, double min, double max)
 {
+    // Qt Charts' logarithmic axis has no guard of its own against an infinite end: with a series
+    // attached, the axis and the chart's domain hand the range back and forth until the stack
+    // runs out. That is Qt's to fix, so this target gives Qt's setter finite ends only.
+    if (isLogarithmic(axis) && !(std::isfinite(min) && std::isfinite(max)))
+        return;
     if (isLogarithmic(axis))
         static_cast<QLogValueAxis &>(axis).setRange(min, max);
     else
@@ -87,7 +92,12 @@ void checkRangeChange(const QAbstractAxis &axis, const Range &before, double new
     if (!valid) {
         KO_FUZZ_CHECK(unchanged, QStringLiteral("refused, but ") + detail);
     } else if (!isLogarithmic(axis) || (newMin > 0.0 && before.min > 0.0)) {
-        KO_FUZZ_CHECK((after.min == newMin && after.max == newMax) || (unchanged && newMin == newMax),
+        // Qt's axes take a change of an end by less than a part in 10^12 for none.
+        const auto endFollows = [](double end, double computed, double old) {
+            return end == computed || (end == old && qFuzzyCompare(computed, old));
+        };
+        KO_FUZZ_CHECK((endFollows(after.min, newMin, before.min) && endFollows(after.max, newMax, before.max))
+                          || (unchanged && newMin == newMax),
                       QStringLiteral("accepted, but ") + detail);
     }
 }
