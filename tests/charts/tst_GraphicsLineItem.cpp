@@ -84,6 +84,48 @@ private Q_SLOTS:
         const QImage smoothed = renderAntialiased(new QGraphicsLineItem(QLineF(3.0, 5.0, 37.0, 31.0)));
         QVERIFY(colours(smoothed).size() > 2);
     }
+
+    // The remembered bounding rectangle is QGraphicsLineItem's own, and follows every change of
+    // line and pen.
+    void boundingRectFollowsLineAndPen_data()
+    {
+        QTest::addColumn<QLineF>("line");
+        QTest::addColumn<QPen>("pen");
+        QTest::addColumn<QLineF>("nextLine");
+        QTest::addColumn<QPen>("nextPen");
+        const QPen thin(Qt::black, 1.0);
+        QPen wideRound(Qt::red, 5.0);
+        wideRound.setCapStyle(Qt::RoundCap);
+        QPen dashedFlat(Qt::gray, 2.5, Qt::DashLine, Qt::FlatCap);
+        QTest::newRow("grid line moved") << QLineF(10.5, 0.0, 10.5, 300.0) << thin << QLineF(17.25, 0.0, 17.25, 300.0) << thin;
+        QTest::newRow("tick mark widened") << QLineF(0.0, 4.0, 5.0, 4.0) << thin << QLineF(0.0, 4.0, 5.0, 4.0) << wideRound;
+        QTest::newRow("pen colour only") << QLineF(1.0, 2.0, 3.0, 4.0) << thin << QLineF(1.0, 2.0, 3.0, 4.0) << QPen(Qt::blue, 1.0);
+        QTest::newRow("diagonal, dashed") << QLineF(-3.0, 7.0, 40.0, -2.0) << dashedFlat << QLineF(40.0, -2.0, -3.0, 7.0) << thin;
+        QTest::newRow("cosmetic to wide") << QLineF(0.0, 0.0, 0.0, 0.0) << QPen(Qt::black, 0.0) << QLineF(2.0, 2.0, 9.0, 2.0) << wideRound;
+        QTest::newRow("no pen") << QLineF(5.0, 5.0, 50.0, 60.0) << QPen(Qt::NoPen) << QLineF(5.0, 5.0, 50.0, 60.0) << dashedFlat;
+    }
+
+    void boundingRectFollowsLineAndPen()
+    {
+        QFETCH(QLineF, line);
+        QFETCH(QPen, pen);
+        QFETCH(QLineF, nextLine);
+        QFETCH(QPen, nextPen);
+        GraphicsLineItem ours(line);
+        QGraphicsLineItem plain(line);
+        ours.setPen(pen);
+        plain.setPen(pen);
+        QCOMPARE(ours.boundingRect(), plain.boundingRect());
+        QCOMPARE(ours.boundingRect(), plain.boundingRect());
+
+        ours.setLine(nextLine);
+        plain.setLine(nextLine);
+        QCOMPARE(ours.boundingRect(), plain.boundingRect());
+        ours.setPen(nextPen);
+        plain.setPen(nextPen);
+        QCOMPARE(ours.boundingRect(), plain.boundingRect());
+        QCOMPARE(ours.shape().boundingRect(), plain.shape().boundingRect());
+    }
 };
 
 QTEST_MAIN(tst_GraphicsLineItem)

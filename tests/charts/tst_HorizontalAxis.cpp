@@ -230,6 +230,39 @@ private Q_SLOTS:
         }
     }
 
+    // Panning moves a label's room back and forth; each layout shows the text truncated for the
+    // room it has then, however often the same text was truncated for another room before.
+    void labelRoomChangingBackAndForth_data()
+    {
+        QTest::addColumn<QVector<qreal>>("axisWidths");
+        QTest::newRow("narrow, wide, narrow") << QVector<qreal>{500.0, 900.0, 500.0, 900.0};
+        QTest::newRow("shrinking then growing") << QVector<qreal>{900.0, 500.0, 300.0, 500.0, 900.0};
+        QTest::newRow("same room twice") << QVector<qreal>{300.0, 300.0, 700.0, 300.0};
+    }
+
+    void labelRoomChangingBackAndForth()
+    {
+        QFETCH(QVector<qreal>, axisWidths);
+        HorizontalAxis *element = layOut(Qt::AlignBottom, bottomAxisRect);
+        m_axis->setRange(0.0, 9.001);
+        m_axis->ticker()->setTickCount(9);
+        m_axis->setLabelFormat(QStringLiteral("%.1f mm/s"));
+        const QFont font = ko::qtToolkit::test::fixedFont();
+        for (const qreal width : axisWidths) {
+            element->setGeometry(QRectF(0, 300, width, 40), gridRect);
+            const qreal maxWidth = width / 10.0 - 8.0;
+            for (int i = 0; i < element->labels().size(); ++i) {
+                QRectF expectedRect;
+                const QString expected = ChartPresenter::truncatedText(font, element->labels().at(i), 0.0, maxWidth,
+                                                                       36.0, expectedRect);
+                QGraphicsTextItem *label = textAt(element->labelGroup(), i);
+                QCOMPARE(label->toPlainText(), expected);
+                QCOMPARE(label->boundingRect().width(),
+                         ChartPresenter::textBoundingRect(font, expected, 0.0).width());
+            }
+        }
+    }
+
     void labelWidthLimitIsExact_data()
     {
         QTest::addColumn<bool>("tooWide");

@@ -11,7 +11,9 @@
 
 #include <QGraphicsItemGroup>
 #include <QGraphicsTextItem>
+#include <QTextBlock>
 #include <QTextDocument>
+#include <QTextLayout>
 #include <QtCharts/private/abstractchartlayout_p.h>
 #include <QtCharts/private/chartpresenter_p.h>
 
@@ -41,6 +43,14 @@ QGraphicsTextItem *createLabel(QGraphicsItem *parent, const QtCharts::QAbstractA
     label->setDefaultTextColor(color);
     label->setRotation(axis.labelsAngle());
     return label;
+}
+
+// Qt drops the shaped text of a document's blocks once it has laid them out, and shapes it again
+// at every paint; a label is painted far more often than its text changes.
+void keepShapedText(const QTextDocument &document)
+{
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        block.layout()->setCacheEnabled(true);
 }
 
 void setLinePen(const QList<QGraphicsItem *> &items, const QPen &pen)
@@ -496,16 +506,16 @@ QRectF CartesianChartAxis::setLabelText(QGraphicsTextItem *label, const QString 
         labelRect = labelBoundingRect(text, angle);
         shown = text;
         if (labelRect.width() > maxWidth || labelRect.height() > maxHeight) {
-            Truncation &truncation = m_truncations[text];
-            if (truncation.shown.isEmpty() || truncation.angle != angle || truncation.maxWidth != maxWidth
-                || truncation.maxHeight != maxHeight) {
-                QRectF rect;
-                const QString truncated = QtCharts::ChartPresenter::truncatedText(m_labelTextsFont, text, angle,
-                                                                                  maxWidth, maxHeight, rect);
-                truncation = {angle, maxWidth, maxHeight, truncated, rect};
+            const TruncationKey key{text, angle, maxWidth, maxHeight};
+            auto it = m_truncations.constFind(key);
+            if (it == m_truncations.constEnd()) {
+                Truncation truncation;
+                truncation.shown = QtCharts::ChartPresenter::truncatedText(m_labelTextsFont, text, angle, maxWidth,
+                                                                           maxHeight, truncation.rect);
+                it = m_truncations.insert(key, truncation);
             }
-            shown = truncation.shown;
-            labelRect = truncation.rect;
+            shown = it->shown;
+            labelRect = it->rect;
         }
         textWidth = labelBoundingRect(shown, 0.0).width();
     }
@@ -513,11 +523,16 @@ QRectF CartesianChartAxis::setLabelText(QGraphicsTextItem *label, const QString 
     if (label->textWidth() != textWidth)
         label->setTextWidth(textWidth);
     if (label->data(shownTextKey).toString() != shown) {
-        label->setHtml(shown);
+        // The document directly: QGraphicsTextItem::setHtml() also resets the text cursor and
+        // scrolls to it, which a label that cannot be edited never shows.
+        label->document()->setHtml(shown);
         label->setData(shownTextKey, shown);
+        keepShapedText(*label->document());
     }
     // Rotation by the labels angle turns a label about its middle.
-    label->setTransformOriginPoint(label->boundingRect().center());
+    const QPointF origin = label->boundingRect().center();
+    if (label->transformOriginPoint() != origin)
+        label->setTransformOriginPoint(origin);
     return labelRect;
 }
 
@@ -572,7 +587,10 @@ void CartesianChartAxis::createItems(int count)
     QGraphicsTextItem *title = titleItem();
     title->setFont(axis()->titleFont());
     title->setDefaultTextColor(axis()->titleBrush().color());
-    title->setHtml(axis()->titleText());
+    // Setting an empty title again would rebuild the title's empty document on every pass.
+    const QString titleText = axis()->titleText();
+    if (!titleText.isEmpty() || !title->document()->isEmpty())
+        title->setHtml(titleText);
 
     const QColor labelsColor = axis()->labelsBrush().color();
     for (int i = 0; i < count; ++i) {

@@ -147,12 +147,28 @@ private:
     bool minorLabelsVisible() const;
     void dropStaleLabelTexts() const;
 
-    // A label text as truncated for the given limits.
+    // A label text turned by an angle and truncated to a width and height, and what it shows.
+    // Panning moves the tick count back and forth, and with it the room of each label, so a text
+    // is remembered for every room it was truncated to, not only the last.
+    struct TruncationKey
+    {
+        QString text;
+        qreal angle;
+        qreal maxWidth;
+        qreal maxHeight;
+        bool operator==(const TruncationKey &other) const
+        {
+            return text == other.text && angle == other.angle && maxWidth == other.maxWidth
+                   && maxHeight == other.maxHeight;
+        }
+        friend size_t qHash(const TruncationKey &key, size_t seed = 0)
+        {
+            return ::qHash(key.text, seed) ^ ::qHash(key.maxWidth, seed) ^ ::qHash(key.maxHeight, seed + 1)
+                   ^ ::qHash(key.angle, seed + 2);
+        }
+    };
     struct Truncation
     {
-        qreal angle = 0.0;
-        qreal maxWidth = 0.0;
-        qreal maxHeight = 0.0;
         QString shown;
         QRectF rect;
     };
@@ -168,7 +184,7 @@ private:
     mutable QStringList m_pendingMinorLabels;
     // Measured and truncated label texts, for the labels font they were measured in.
     mutable QHash<QPair<QString, qreal>, QRectF> m_labelRects;
-    mutable QHash<QString, Truncation> m_truncations;
+    mutable QHash<TruncationKey, Truncation> m_truncations;
     mutable QFont m_labelTextsFont;
 };
 
