@@ -236,6 +236,57 @@ private Q_SLOTS:
         QVERIFY(group->isVisible());
     }
 
+    // Hidden minor labels are left alone by layout passes; the moment they show again they are
+    // what a full layout pass over the same geometry makes of them.
+    void minorLabelsShownAgainAreUpToDate_data()
+    {
+        QTest::addColumn<bool>("hideAxis");
+        QTest::newRow("minor labels hidden") << false;
+        QTest::newRow("axis hidden") << true;
+    }
+
+    void minorLabelsShownAgainAreUpToDate()
+    {
+        QFETCH(bool, hideAxis);
+        TestChart chart;
+        auto *axis = chart.addAxis(new LinearAxis, Qt::AlignBottom);
+        axis->setRange(0.0, 100.0);
+        chart.layout();
+        const auto show = [&](bool visible) {
+            if (hideAxis)
+                axis->setVisible(visible);
+            else
+                axis->setMinorLabelsVisible(visible);
+        };
+        show(false);
+        axis->setRange(13.0, 57.0);
+        axis->setLabelFormat(QStringLiteral("%.2f V"));
+        chart.layout();
+        show(true);
+
+        auto *element = TestChart::element<CartesianChartAxis>(*axis);
+        QVERIFY(element->minorLabelGroup()->isVisible());
+        const auto snapshot = [&] {
+            QStringList state;
+            for (QGraphicsItem *item : element->minorLabelItems()) {
+                const auto *label = static_cast<QGraphicsTextItem *>(item);
+                QRectF rect = label->boundingRect();
+                state << QStringLiteral("%1 at %2,%3 in %4 x %5")
+                             .arg(label->toPlainText())
+                             .arg(label->pos().x())
+                             .arg(label->pos().y())
+                             .arg(rect.width())
+                             .arg(rect.height());
+            }
+            return state;
+        };
+        const QStringList shown = snapshot();
+        QCOMPARE(shown.size(), element->minorTickValues().size());
+        QVERIFY(shown.first().contains(QStringLiteral(" V")) || shown.first().contains(QStringLiteral("...")));
+        element->setGeometry(element->axisGeometry(), element->gridGeometry());
+        QCOMPARE(shown, snapshot());
+    }
+
     void minorLabelsStartHiddenOnHiddenAxis()
     {
         TestChart chart;

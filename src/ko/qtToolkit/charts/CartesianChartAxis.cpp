@@ -17,6 +17,8 @@
 #include <QtCharts/private/abstractchartlayout_p.h>
 #include <QtCharts/private/chartpresenter_p.h>
 
+#include <algorithm>
+
 namespace ko::qtToolkit::charts {
 
 namespace {
@@ -210,6 +212,8 @@ QStringList CartesianChartAxis::allLabels() const
 void CartesianChartAxis::handleVisibleChanged(bool visible)
 {
     m_minorLabelGroup->setVisible(visible && minorLabelsVisible());
+    if (minorLabelsShown() && !m_minorLabelsLaidOut)
+        layoutMinorLabels();
 }
 
 void CartesianChartAxis::handleMinorLabelsVisibleChanged(bool visible)
@@ -220,6 +224,8 @@ void CartesianChartAxis::handleMinorLabelsVisibleChanged(bool visible)
     }
     // The group is not a child of this element, so a hidden axis must keep it hidden itself.
     m_minorLabelGroup->setVisible(visible && axis()->isVisible());
+    if (minorLabelsShown() && !m_minorLabelsLaidOut)
+        layoutMinorLabels();
 }
 
 void CartesianChartAxis::handleMinorLabelsColorChanged(QColor color)
@@ -365,13 +371,16 @@ void CartesianChartAxis::updateGeometry()
                    static_cast<QGraphicsTextItem *>(labelItems.at(i)), labelTexts.at(i), m_majorTickValues.at(i),
                    majorLimit);
     }
+    // Hidden minor labels are neither measured nor placed; showing them lays them out first.
+    m_minorLabelLimit = minorLimit;
+    m_minorLabelsLaidOut = minorLabelsShown();
     const QList<QGraphicsItem *> minorGrid = minorGridItems();
     const QList<QGraphicsItem *> minorArrows = minorArrowItems();
     const QList<QGraphicsItem *> minorLabelItems = this->minorLabelItems();
     for (int j = 0; j < m_minorTickValues.size(); ++j) {
+        auto *label = m_minorLabelsLaidOut ? static_cast<QGraphicsTextItem *>(minorLabelItems.at(j)) : nullptr;
         layoutTick(static_cast<QGraphicsLineItem *>(minorGrid.at(j)),
-                   static_cast<QGraphicsLineItem *>(minorArrows.at(j)),
-                   static_cast<QGraphicsTextItem *>(minorLabelItems.at(j)), m_minorLabels.at(j),
+                   static_cast<QGraphicsLineItem *>(minorArrows.at(j)), label, m_minorLabels.at(j),
                    m_minorTickValues.at(j), minorLimit);
     }
 }
@@ -419,7 +428,24 @@ void CartesianChartAxis::layoutTick(QGraphicsLineItem *gridItem, QGraphicsLineIt
     const QRectF gridRect = gridGeometry();
     const qreal position = tickPosition(value);
     gridItem->setLine(frame.line(position, frame.acrossStart(gridRect), position, frame.acrossEnd(gridRect)));
+    if (labelItem)
+        layoutLabel(labelItem, text, position, labelLimit);
 
+    const Side side = sideOf(frame, *axis(), axisGeometry());
+    if (!side.placed)
+        return;
+    // Horizontal tick marks run from the edge outwards, vertical ones left to right.
+    const qreal markEnd = side.edge + side.away * labelPadding();
+    if (frame.horizontal)
+        tickItem->setLine(frame.line(position, side.edge, position, markEnd));
+    else
+        tickItem->setLine(frame.line(position, std::min(side.edge, markEnd), position, std::max(side.edge, markEnd)));
+}
+
+void CartesianChartAxis::layoutLabel(QGraphicsTextItem *labelItem, const QString &text, qreal position,
+                                     const QSizeF &labelLimit)
+{
+    const Frame frame(m_orientation);
     const QRectF labelRect = setLabelText(labelItem, text, labelLimit.width(), labelLimit.height());
     const QRectF rect = labelItem->boundingRect();
     const Side side = sideOf(frame, *axis(), axisGeometry());
@@ -434,14 +460,19 @@ void CartesianChartAxis::layoutTick(QGraphicsLineItem *gridItem, QGraphicsLineIt
     const qreal across = side.away < 0.0 ? side.edge - frame.thickness(labelRect.size()) + spare * 0.5 - gap
                                          : side.edge - spare * 0.5 + gap;
     const qreal along = position - frame.along(rect.center());
-    // Horizontal tick marks run from the edge outwards, vertical ones left to right.
-    const qreal markEnd = side.edge + side.away * labelPadding();
-    if (frame.horizontal)
-        tickItem->setLine(frame.line(position, side.edge, position, markEnd));
-    else
-        tickItem->setLine(frame.line(position, std::min(side.edge, markEnd), position, std::max(side.edge, markEnd)));
     // Whole pixels keep the text sharp.
     labelItem->setPos(frame.point(qRound(along), qRound(across)));
+}
+
+void CartesianChartAxis::layoutMinorLabels()
+{
+    const QList<QGraphicsItem *> items = minorLabelItems();
+    const int count = std::min({int(items.size()), int(m_minorTickValues.size()), int(m_minorLabels.size())});
+    for (int j = 0; j < count; ++j) {
+        layoutLabel(static_cast<QGraphicsTextItem *>(items.at(j)), m_minorLabels.at(j),
+                    tickPosition(m_minorTickValues.at(j)), m_minorLabelLimit);
+    }
+    m_minorLabelsLaidOut = true;
 }
 
 qreal CartesianChartAxis::tickPosition(qreal value) const
@@ -641,6 +672,11 @@ QColor CartesianChartAxis::minorLabelsColor() const
 {
     const TickedAxisState *state = tickedAxisState(*axis());
     return state ? state->minorLabelsBrush.color() : axis()->labelsColor();
+}
+
+bool CartesianChartAxis::minorLabelsShown() const
+{
+    return axis()->isVisible() && minorLabelsVisible();
 }
 
 bool CartesianChartAxis::minorLabelsVisible() const

@@ -108,9 +108,16 @@ protected:
 
 private:
     /// Places the grid line, tick mark and label of the tick at axis value \a value, the label
-    /// showing \a text within \a labelLimit.
+    /// showing \a text within \a labelLimit; without \a labelItem, only the lines.
     void layoutTick(QGraphicsLineItem *gridItem, QGraphicsLineItem *tickItem, QGraphicsTextItem *labelItem,
                     const QString &text, qreal value, const QSizeF &labelLimit);
+
+    /// Shows \a text in \a labelItem within \a labelLimit and places it at \a position along the
+    /// axis, beside the axis edge.
+    void layoutLabel(QGraphicsTextItem *labelItem, const QString &text, qreal position, const QSizeF &labelLimit);
+
+    /// Lays out the minor labels that the last pass skipped while they were hidden.
+    void layoutMinorLabels();
 
     /// Places the title across the axis from the plot; what room it leaves for the labels of
     /// \a availableSpace.
@@ -145,6 +152,8 @@ private:
     void deleteMinorItems(int count);
     QColor minorLabelsColor() const;
     bool minorLabelsVisible() const;
+    /// Whether the minor labels are shown: the axis is visible and so are its minor labels.
+    bool minorLabelsShown() const;
     void dropStaleLabelTexts() const;
 
     // A label text turned by an angle and truncated to a width and height, and what it shows.
@@ -177,6 +186,9 @@ private:
     QGraphicsItemGroup *m_minorLabelGroup;
     QStringList m_minorLabels;
     QRectF m_gridRect;
+    // The room of each minor label in the last pass, and whether that pass laid them out.
+    QSizeF m_minorLabelLimit;
+    bool m_minorLabelsLaidOut = true;
     // Filled by calculateLayout(), which the base declares const.
     mutable QVector<qreal> m_majorTickValues;
     mutable QVector<qreal> m_minorTickValues;
