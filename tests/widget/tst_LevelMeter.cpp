@@ -3,7 +3,9 @@
 #include <TestSupport.h>
 #include <WidgetSupport.h>
 
+#include <QBackingStore>
 #include <QMetaProperty>
+#include <QPaintEvent>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -86,6 +88,52 @@ double rowOf(double fraction, int h)
     return (h - 1) - fraction * (h - 2);
 }
 
+// Records the region of every paint event of the widgets it is installed on.
+class PaintRegions : public QObject
+{
+public:
+    QVector<QRegion> regions;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            regions.append(static_cast<QPaintEvent *>(event)->region());
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+// A meter inside a shown window, away from the window's corner, painted through the window's
+// backing store as on a screen.
+struct MeterInWindow
+{
+    QWidget window;
+    LevelMeter *meter = new LevelMeter(&window);
+
+    MeterInWindow(Qt::Orientation orientation, const QSize &size)
+    {
+        window.resize(size + QSize(30, 30));
+        meter->setOrientation(orientation);
+        meter->setGeometry(QRect(QPoint(11, 7), size));
+        window.show();
+    }
+
+    // What the window's backing store holds of the meter: the pixels on the screen.
+    QImage shown() const
+    {
+        QPaintDevice *device = window.backingStore()->paintDevice();
+        if (device == nullptr || device->devType() != QInternal::Image)
+            return {};
+        return static_cast<QImage *>(device)->copy(meter->geometry()).convertToFormat(QImage::Format_RGB32);
+    }
+
+    // The meter painted completely anew, with the window behind it.
+    QImage repainted()
+    {
+        return window.grab(meter->geometry()).toImage().convertToFormat(QImage::Format_RGB32);
+    }
+};
+
 } // namespace
 
 class tst_LevelMeter : public QObject
@@ -123,6 +171,14 @@ private Q_SLOTS:
     void tinyMeters_data();
     void tinyMeters();
     void gradientFollowsResizeAndThresholdsNotRange();
+    void levelChangeRepaintsTheChangedStrip_data();
+    void levelChangeRepaintsTheChangedStrip();
+    void noRepaintWhileTheLitLengthStays_data();
+    void noRepaintWhileTheLitLengthStays();
+    void valueSetPastTheMeterRepaintsItWhole();
+    void whatAReceiverOfValueChangedRepaintsIsPainted();
+    void stripsPaintTheSamePixelsAsAFullRepaint_data();
+    void stripsPaintTheSamePixelsAsAFullRepaint();
 };
 
 void tst_LevelMeter::defaults()
@@ -787,6 +843,184 @@ void tst_LevelMeter::gradientFollowsResizeAndThresholdsNotRange()
     QCOMPARE(tall.size(), 3);
     QVERIFY(std::abs(tall.at(1).second - rowOf(70.0 / 75.0, 300)) <= 1.0);
     QVERIFY(std::abs(tall.at(2).second - rowOf(40.0 / 75.0, 300)) <= 1.0);
+}
+
+void tst_LevelMeter::levelChangeRepaintsTheChangedStrip_data()
+{
+    QTest::addColumn<Qt::Orientation>("orientation");
+    QTest::addColumn<float>("from");
+    QTest::addColumn<float>("to");
+    QTest::addColumn<QRect>("strip");
+
+    // 20 by 200 (or 200 by 20), bar range 0 to 100: -20 lights 105 pixels, +10 lights 186, -55
+    // lights 12, +15 the whole inside of 198.
+    QTest::newRow("vertical rising from nothing") << Qt::Vertical << -60.0f << -20.0f << QRect(1, 94, 18, 105);
+    QTest::newRow("vertical falling to nothing") << Qt::Vertical << -20.0f << -60.0f << QRect(1, 94, 18, 105);
+    QTest::newRow("vertical rising between zones") << Qt::Vertical << -20.0f << 10.0f << QRect(1, 13, 18, 81);
+    QTest::newRow("vertical falling between zones") << Qt::Vertical << 10.0f << -20.0f << QRect(1, 13, 18, 81);
+    QTest::newRow("vertical to full") << Qt::Vertical << 10.0f << 15.0f << QRect(1, 1, 18, 12);
+    QTest::newRow("horizontal rising from nothing") << Qt::Horizontal << -60.0f << -55.0f << QRect(1, 1, 12, 18);
+    QTest::newRow("horizontal rising") << Qt::Horizontal << -55.0f << -20.0f << QRect(13, 1, 93, 18);
+    QTest::newRow("horizontal falling from full") << Qt::Horizontal << 15.0f << 10.0f << QRect(187, 1, 12, 18);
+}
+
+void tst_LevelMeter::levelChangeRepaintsTheChangedStrip()
+{
+    QFETCH(Qt::Orientation, orientation);
+    QFETCH(float, from);
+    QFETCH(float, to);
+    QFETCH(QRect, strip);
+
+    MeterInWindow shown(orientation, orientation == Qt::Vertical ? QSize(20, 200) : QSize(200, 20));
+    QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
+    shown.meter->setLevel(from);
+    QCoreApplication::processEvents();
+    PaintRegions painted;
+    shown.meter->installEventFilter(&painted);
+
+    QSignalSpy values(shown.meter, &QProgressBar::valueChanged);
+    shown.meter->setLevel(to);
+    QCOMPARE(values.count(), 1);
+    QCOMPARE(shown.meter->level(), to);
+    QCOMPARE(painted.regions.size(), 0);
+    QTRY_COMPARE(painted.regions.size(), 1);
+    QCOMPARE(painted.regions.first(), QRegion(strip));
+}
+
+void tst_LevelMeter::noRepaintWhileTheLitLengthStays_data()
+{
+    QTest::addColumn<Qt::Orientation>("orientation");
+    QTest::addColumn<float>("from");
+    QTest::addColumn<float>("to");
+    QTest::addColumn<int>("value");
+
+    // 50 pixels for a bar range of 0 to 100: values 50 and 51 both light 25 pixels.
+    QTest::newRow("vertical") << Qt::Vertical << -22.5f << -21.7f << 51;
+    QTest::newRow("horizontal") << Qt::Horizontal << -22.5f << -21.7f << 51;
+    // Values 99 and 100 both light more than the 48 pixels inside the frame.
+    QTest::newRow("beyond the inside") << Qt::Vertical << 14.3f << 15.0f << 100;
+}
+
+void tst_LevelMeter::noRepaintWhileTheLitLengthStays()
+{
+    QFETCH(Qt::Orientation, orientation);
+    QFETCH(float, from);
+    QFETCH(float, to);
+    QFETCH(int, value);
+
+    MeterInWindow shown(orientation, orientation == Qt::Vertical ? QSize(20, 50) : QSize(50, 20));
+    QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
+    shown.meter->setLevel(from);
+    QCoreApplication::processEvents();
+    const int before = shown.meter->value();
+    PaintRegions painted;
+    shown.meter->installEventFilter(&painted);
+
+    // The value and its signal change as always; the pixels do not.
+    QSignalSpy values(shown.meter, &QProgressBar::valueChanged);
+    shown.meter->setLevel(to);
+    QCOMPARE(shown.meter->level(), to);
+    QCOMPARE(shown.meter->value(), value);
+    QVERIFY(before != value);
+    QCOMPARE(values.count(), 1);
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+    QCOMPARE(painted.regions.size(), 0);
+}
+
+// A value set on the progress bar itself may or may not have been repainted: the next level
+// change repaints the whole meter.
+void tst_LevelMeter::valueSetPastTheMeterRepaintsItWhole()
+{
+    MeterInWindow shown(Qt::Vertical, QSize(20, 200));
+    QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
+    shown.meter->setLevel(-20.0f);
+    QCoreApplication::processEvents();
+    shown.meter->setTextVisible(false);
+    shown.meter->setValue(54);
+    QCoreApplication::processEvents();
+    PaintRegions painted;
+    shown.meter->installEventFilter(&painted);
+
+    shown.meter->setLevel(10.0f);
+    QTRY_COMPARE(painted.regions.size(), 1);
+    QCOMPARE(painted.regions.first(), QRegion(shown.meter->rect()));
+    QCOMPARE(shown.shown(), shown.repainted());
+}
+
+// What a receiver of valueChanged() asks to repaint (all of the meter, here) is not lost to
+// the strip.
+void tst_LevelMeter::whatAReceiverOfValueChangedRepaintsIsPainted()
+{
+    MeterInWindow shown(Qt::Vertical, QSize(20, 200));
+    QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
+    QCoreApplication::processEvents();
+    connect(shown.meter, &QProgressBar::valueChanged, shown.meter, [&shown] { shown.meter->setMuted(true); });
+    PaintRegions painted;
+    shown.meter->installEventFilter(&painted);
+
+    shown.meter->setLevel(-20.0f);
+    QTRY_COMPARE(painted.regions.size(), 1);
+    QCOMPARE(painted.regions.first(), QRegion(shown.meter->rect()));
+    QCOMPARE(shown.shown(), shown.repainted());
+}
+
+void tst_LevelMeter::stripsPaintTheSamePixelsAsAFullRepaint_data()
+{
+    QTest::addColumn<Qt::Orientation>("orientation");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QString>("look");
+
+    QTest::newRow("vertical") << Qt::Vertical << QSize(20, 200) << QString();
+    QTest::newRow("horizontal") << Qt::Horizontal << QSize(200, 20) << QString();
+    QTest::newRow("odd height") << Qt::Vertical << QSize(13, 117) << QString();
+    QTest::newRow("muted") << Qt::Vertical << QSize(20, 200) << QStringLiteral("muted");
+    QTest::newRow("disabled") << Qt::Horizontal << QSize(200, 20) << QStringLiteral("disabled");
+    QTest::newRow("translucent background") << Qt::Vertical << QSize(20, 200) << QStringLiteral("translucent background");
+    QTest::newRow("translucent low colour") << Qt::Vertical << QSize(20, 200) << QStringLiteral("translucent low");
+    QTest::newRow("thresholds at the ends") << Qt::Vertical << QSize(20, 200) << QStringLiteral("thresholds at the ends");
+    QTest::newRow("turned after sizing") << Qt::Horizontal << QSize(60, 60) << QStringLiteral("turned");
+}
+
+void tst_LevelMeter::stripsPaintTheSamePixelsAsAFullRepaint()
+{
+    QFETCH(Qt::Orientation, orientation);
+    QFETCH(QSize, size);
+    QFETCH(QString, look);
+
+    MeterInWindow shown(orientation, size);
+    QPalette palette = shown.window.palette();
+    palette.setColor(QPalette::Window, QColor(0x2040a0));
+    shown.window.setPalette(palette);
+    LevelMeter &meter = *shown.meter;
+    if (look == QLatin1String("muted")) {
+        meter.setMuted(true);
+    } else if (look == QLatin1String("disabled")) {
+        meter.setEnabled(false);
+    } else if (look == QLatin1String("translucent background")) {
+        meter.setBackgroundColor(QColor(0, 0, 0, 100));
+    } else if (look == QLatin1String("translucent low")) {
+        meter.setLowColor(QColor(0, 255, 0, 128));
+    } else if (look == QLatin1String("thresholds at the ends")) {
+        meter.setHighThresholdLevel(15.0f);
+        meter.setMediumThresholdLevel(-60.0f);
+    }
+    QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
+    if (look == QLatin1String("turned"))
+        meter.setOrientation(Qt::Vertical);
+    QCoreApplication::processEvents();
+
+    // Levels that rise and fall, repeat, stay within a pixel and cross both thresholds.
+    const float levels[] = {-60.0f, -20.0f, -19.9f, 10.0f, 15.0f, -55.0f, -55.0f, 0.0f, -59.0f, 12.5f, -60.0f, 3.0f};
+    for (const float level : levels) {
+        meter.setLevel(level);
+        QCoreApplication::processEvents();
+        const QImage onScreen = shown.shown();
+        QVERIFY(!onScreen.isNull());
+        const QImage full = shown.repainted();
+        QVERIFY2(onScreen == full, qPrintable(QStringLiteral("after level %1").arg(level)));
+    }
+    shown.shown().save(artifactPath(QStringLiteral("LevelMeter-strips-%1.png").arg(QTest::currentDataTag())));
 }
 
 QTEST_MAIN(tst_LevelMeter)

@@ -2,8 +2,12 @@
 
 #include <ko/qtToolkit/common/Numeric_p.h>
 
+#include <QImage>
 #include <QLinearGradient>
+#include <QPaintEngine>
+#include <QPaintEvent>
 #include <QPainter>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <cmath>
@@ -14,6 +18,24 @@ namespace ko::qtToolkit::widget {
 class LevelMeterPrivate
 {
 public:
+    // One colour of the gradient across the inner rectangle: the rows (of a vertical gradient)
+    // or columns (of a horizontal one) from first to last.
+    struct Band
+    {
+        int first;
+        int last;
+        QColor color;
+    };
+
+    explicit LevelMeterPrivate(LevelMeter *meter);
+
+    QRect inner() const;
+    int litLength(int value) const;
+    void valueChanged(int previous, int current);
+    void fillGradient(QPainter &painter, const QRect &area);
+    void updateOpaque();
+
+    LevelMeter *const q;
     // The gradient is kept as a brush so that painting allocates nothing.
     QBrush gradient;
     QColor backgroundColor{0xbbbbbb};
@@ -28,6 +50,21 @@ public:
     float mediumThresholdLevel = -20.0f;
     float highThresholdLevel = 10.0f;
     bool muted = false;
+
+    // The value whose lit length the screen shows, or will show once the updates asked for are
+    // painted.
+    int shownValue;
+    // Whether no stop of the gradient is translucent; follows the gradient.
+    bool gradientOpaque = false;
+    // The gradient as bands of flat colour, for the size of the meter they were made for; made
+    // when painting first needs them after the gradient changed.
+    QVector<Band> bands;
+    QSize bandsSize;
+    bool gradientIsVertical = true;
+    bool bandsValid = false;
+
+private:
+    void makeBands();
 };
 
 namespace {
@@ -57,11 +94,196 @@ bool isFiniteLevel(const char *function, float level)
     return false;
 }
 
+// Whether flat fills give the very pixels of the gradient brush: on a 32-bit raster image at
+// one device pixel per pixel, moved by whole pixels only, a fill of a linear gradient along one
+// axis is a colour per row (or column) from the gradient's colour table, which a solid fill
+// repeats exactly. Anything else (a pixmap, a printer, a 16-bit image that dithers, a scale)
+// gets the gradient brush itself.
+bool fillsMatchTheGradient(const QPainter &painter)
+{
+    const QPaintEngine *engine = painter.paintEngine();
+    if (engine == nullptr || engine->type() != QPaintEngine::Raster)
+        return false;
+    const QPaintDevice *device = engine->paintDevice();
+    if (device == nullptr || device->devType() != QInternal::Image)
+        return false;
+    const auto *image = static_cast<const QImage *>(device);
+    switch (image->format()) {
+    case QImage::Format_RGB32:
+    case QImage::Format_ARGB32:
+    case QImage::Format_ARGB32_Premultiplied:
+        break;
+    default:
+        return false;
+    }
+    const QTransform &transform = painter.deviceTransform();
+    return image->devicePixelRatio() == 1.0 && transform.type() <= QTransform::TxTranslate
+        && transform.dx() == std::round(transform.dx()) && transform.dy() == std::round(transform.dy())
+        && painter.brushOrigin() == QPointF() && painter.opacity() == 1.0
+        && painter.compositionMode() == QPainter::CompositionMode_SourceOver;
+}
+
+// QProgressBar::setValue() repaints at once, which would sync and flush the whole window for
+// every meter of a wall. While this lives, that repaint is held back (QWidget::repaint() does
+// nothing with updates disabled), and the meter asks for the strip that changed itself.
+// Updates are enabled again without QWidget::setUpdatesEnabled(), which would schedule a
+// repaint of the whole meter; they stay disabled when the application or the parent disabled
+// them meanwhile.
+class RepaintHeldBack
+{
+public:
+    explicit RepaintHeldBack(QWidget *widget)
+        : m_widget(widget)
+        , m_held(widget->updatesEnabled())
+    {
+        if (m_held)
+            m_widget->setAttribute(Qt::WA_UpdatesDisabled);
+    }
+
+    ~RepaintHeldBack()
+    {
+        if (!m_held || m_widget->testAttribute(Qt::WA_ForceUpdatesDisabled))
+            return;
+        const QWidget *parent = m_widget->isWindow() ? nullptr : m_widget->parentWidget();
+        if (parent == nullptr || parent->updatesEnabled())
+            m_widget->setAttribute(Qt::WA_UpdatesDisabled, false);
+    }
+
+    RepaintHeldBack(const RepaintHeldBack &) = delete;
+    RepaintHeldBack &operator=(const RepaintHeldBack &) = delete;
+
+private:
+    QWidget *const m_widget;
+    const bool m_held;
+};
+
 } // namespace
+
+LevelMeterPrivate::LevelMeterPrivate(LevelMeter *meter)
+    : q(meter)
+    , shownValue(meter->value())
+{
+}
+
+QRect LevelMeterPrivate::inner() const
+{
+    return q->rect().adjusted(1, 1, -1, -1);
+}
+
+// The lit length of \a value as painted: measured on the whole widget, limited to the inner
+// rectangle.
+int LevelMeterPrivate::litLength(int value) const
+{
+    const QRect inside = inner();
+    if (inside.isEmpty())
+        return 0;
+    const int extent = q->orientation() == Qt::Vertical ? inside.height() : inside.width();
+    return std::clamp(q->mapValueToPixels(value), 0, extent);
+}
+
+// Asks for a repaint of what changed between the lit lengths of two values: the strip between
+// them, or nothing when both light the same pixels.
+void LevelMeterPrivate::valueChanged(int previous, int current)
+{
+    if (previous != shownValue) {
+        // The value was changed past setLevel(), with or without a repaint: what the screen
+        // shows is not known.
+        q->update();
+    } else {
+        const int from = litLength(previous);
+        const int to = litLength(current);
+        if (from != to) {
+            const QRect inside = inner();
+            const int shorter = std::min(from, to);
+            const int longer = std::max(from, to);
+            if (q->orientation() == Qt::Vertical)
+                q->update(inside.left(), inside.bottom() + 1 - longer, inside.width(), longer - shorter);
+            else
+                q->update(inside.left() + shorter, inside.top(), longer - shorter, inside.height());
+        }
+    }
+    shownValue = current;
+}
+
+// A meter whose gradient and background are opaque covers every pixel it has with opaque paint:
+// the wash of a muted or disabled meter goes over the meter's own paint. Telling Qt so spares
+// painting what lies behind the meter, and lets the backing store keep the meter's dirty region
+// apart from the window's.
+void LevelMeterPrivate::updateOpaque()
+{
+    q->setAttribute(Qt::WA_OpaquePaintEvent, gradientOpaque && backgroundColor.alpha() == 255);
+}
+
+void LevelMeterPrivate::makeBands()
+{
+    bands.clear();
+    bandsSize = q->size();
+    bandsValid = true;
+    const QGradient *shape = gradient.gradient();
+    const QRect inside = inner();
+    if (!gradientOpaque || shape == nullptr || shape->type() != QGradient::LinearGradient || inside.isEmpty())
+        return;
+    const auto *linear = static_cast<const QLinearGradient *>(shape);
+    if (linear->start().x() == linear->finalStop().x())
+        gradientIsVertical = true;
+    else if (linear->start().y() == linear->finalStop().y())
+        gradientIsVertical = false;
+    else
+        return;
+    // One line along the gradient's axis, filled as the meter fills it: across the axis the
+    // colour does not change.
+    const QRect line = gradientIsVertical ? QRect(inside.left(), inside.top(), 1, inside.height())
+                                          : QRect(inside.left(), inside.top(), inside.width(), 1);
+    QImage image(line.right() + 1, line.bottom() + 1, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    {
+        QPainter painter(&image);
+        painter.fillRect(line, gradient);
+    }
+    const int first = gradientIsVertical ? line.top() : line.left();
+    const int last = gradientIsVertical ? line.bottom() : line.right();
+    QRgb previous = 0;
+    for (int i = first; i <= last; ++i) {
+        const QRgb pixel = gradientIsVertical ? image.pixel(line.left(), i) : image.pixel(i, line.top());
+        if (bands.isEmpty() || pixel != previous)
+            bands.append(Band{i, i, QColor::fromRgba(pixel)});
+        else
+            bands.last().last = i;
+        previous = pixel;
+    }
+}
+
+// Fills \a area, inside the inner rectangle, with the gradient: with a flat fill for each band of
+// colour it crosses where those give the same pixels, else with the gradient brush.
+void LevelMeterPrivate::fillGradient(QPainter &painter, const QRect &area)
+{
+    if (gradientOpaque && fillsMatchTheGradient(painter)) {
+        if (!bandsValid || bandsSize != q->size())
+            makeBands();
+        if (!bands.isEmpty()) {
+            const int from = gradientIsVertical ? area.top() : area.left();
+            const int to = gradientIsVertical ? area.bottom() : area.right();
+            for (const Band &band : qAsConst(bands)) {
+                if (band.last < from)
+                    continue;
+                if (band.first > to)
+                    break;
+                const int first = std::max(band.first, from);
+                const int last = std::min(band.last, to);
+                if (gradientIsVertical)
+                    painter.fillRect(area.left(), first, area.width(), last - first + 1, band.color);
+                else
+                    painter.fillRect(first, area.top(), last - first + 1, area.height(), band.color);
+            }
+            return;
+        }
+    }
+    painter.fillRect(area, gradient);
+}
 
 LevelMeter::LevelMeter(QWidget *parent)
     : QProgressBar(parent)
-    , d(std::make_unique<LevelMeterPrivate>())
+    , d(std::make_unique<LevelMeterPrivate>(this))
 {
 }
 
@@ -101,17 +323,23 @@ void LevelMeter::setLevel(float level)
 {
     d->level = clampLevel(level);
     const int value = mapLevelToValue(d->level);
-    if (value == this->value())
+    const int previous = this->value();
+    if (value == previous)
         return;
-    // QProgressBar::setValue() repaints at once, which flushes the window for every meter of a
-    // wall; with updates held back it schedules an update instead, and one paint pass serves
-    // all meters that changed.
-    const bool updates = updatesEnabled();
-    if (updates)
-        setUpdatesEnabled(false);
-    setValue(value);
-    if (updates)
-        setUpdatesEnabled(true);
+    // valueChanged() is held back with the repaint and emitted once updates work again, so that
+    // what a receiver asks to repaint is painted.
+    const bool signalsWereBlocked = signalsBlocked();
+    {
+        const QSignalBlocker blocker(this);
+        const RepaintHeldBack heldBack(this);
+        setValue(value);
+    }
+    const int current = this->value();
+    if (current == previous)
+        return;
+    d->valueChanged(previous, current);
+    if (!signalsWereBlocked)
+        Q_EMIT valueChanged(current);
 }
 
 void LevelMeter::setLevelRange(float minimum, float maximum)
@@ -172,6 +400,7 @@ void LevelMeter::setBackgroundColor(const QColor &color)
     if (color == d->backgroundColor)
         return;
     d->backgroundColor = color;
+    d->updateOpaque();
     update();
 }
 
@@ -260,50 +489,49 @@ void LevelMeter::updateGradient()
     addStop(high - epsilon, d->mediumColor);
     addStop(high, d->highColor);
     d->gradient = QBrush(gradient);
+    d->gradientOpaque = d->gradient.isOpaque();
+    d->bandsValid = false;
+    d->updateOpaque();
     update();
 }
 
-void LevelMeter::paintEvent(QPaintEvent * /*event*/)
+void LevelMeter::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
+    // Only what lies in the area to paint is filled: after a level change that is the strip
+    // between the old and the new level.
+    const QRect area = event->rect();
     const QRect whole = rect();
-    const QRect inner = whole.adjusted(1, 1, -1, -1);
+    const QRect inner = d->inner();
     const bool washedOut = d->muted || !isEnabled();
     const QColor &frameColor = d->muted ? d->mutedFrameColor : d->frameColor;
-    // When nothing is translucent, one fill of the whole widget lays the frame and the inside is
-    // painted over it, the gradient only where the bar is lit: the same pixels as gradient,
-    // background and outline drawn one over the other, at a fraction of the cost.
-    const bool opaque = !washedOut && d->gradient.isOpaque() && d->backgroundColor.alpha() == 255;
-    if (opaque)
-        painter.fillRect(whole, frameColor);
     if (!inner.isEmpty()) {
-        // The lit length is measured on the whole widget; it is limited to the inner rectangle
-        // here, so that a full bar leaves no unlit row and nothing spills onto the frame.
-        const int pixels = mapValueToPixels(value());
+        const int pixels = d->litLength(value());
         QRect lit = inner;
         QRect unlit = inner;
         if (orientation() == Qt::Vertical) {
-            const int litHeight = std::clamp(pixels, 0, inner.height());
-            unlit.setHeight(inner.height() - litHeight);
+            unlit.setHeight(inner.height() - pixels);
             lit.setTop(unlit.bottom() + 1);
         } else {
-            const int litWidth = std::clamp(pixels, 0, inner.width());
-            lit.setWidth(litWidth);
+            lit.setWidth(pixels);
             unlit.setLeft(lit.right() + 1);
         }
-        const QRect &gradientArea = opaque ? lit : inner;
+        // An opaque background covers the gradient completely, so the gradient is needed only
+        // where the bar is lit; a translucent one is laid over it.
+        const QRect gradientArea = (d->backgroundColor.alpha() == 255 ? lit : inner) & area;
         if (!gradientArea.isEmpty())
-            painter.fillRect(gradientArea, d->gradient);
-        if (!unlit.isEmpty())
-            painter.fillRect(unlit, d->backgroundColor);
+            d->fillGradient(painter, gradientArea);
+        const QRect unlitArea = unlit & area;
+        if (!unlitArea.isEmpty())
+            painter.fillRect(unlitArea, d->backgroundColor);
     }
     if (washedOut)
-        painter.fillRect(whole, QColor(255, 255, 255, 128));
-    if (!opaque) {
+        painter.fillRect(whole & area, QColor(255, 255, 255, 128));
+    const auto within = [&area](const QRect &rect) { return !rect.isEmpty() && rect.contains(area); };
+    if (!within(inner))
         fillOutline(painter, whole, frameColor);
-        if (d->muted)
-            fillOutline(painter, inner, frameColor);
-    }
+    if (d->muted && !within(inner.adjusted(1, 1, -1, -1)))
+        fillOutline(painter, inner, frameColor);
 }
 
 void LevelMeter::resizeEvent(QResizeEvent * /*event*/)

@@ -65,7 +65,8 @@ public:
 
     /**
      * \brief Sets the level, clamped to the level range, and the progress bar's value mapped
-     *        from it. The meter is repainted when the value changes.
+     *        from it. When the lit length changes, the strip between the old and the new length
+     *        is scheduled for repainting (with update(), not at once).
      *
      * A level that is not a number (NaN) counts as the minimum level.
      */
