@@ -2,9 +2,7 @@
 
 #include <ko/qtToolkit/common/Numeric_p.h>
 
-#include <QImage>
 #include <QLinearGradient>
-#include <QPaintEngine>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QSignalBlocker>
@@ -18,21 +16,11 @@ namespace ko::qtToolkit::widget {
 class LevelMeterPrivate
 {
 public:
-    // One colour of the gradient across the inner rectangle: the rows (of a vertical gradient)
-    // or columns (of a horizontal one) from first to last.
-    struct Band
-    {
-        int first;
-        int last;
-        QColor color;
-    };
-
     explicit LevelMeterPrivate(LevelMeter *meter);
 
     QRect inner() const;
     int litLength(int value) const;
     void valueChanged(int previous, int current);
-    void fillGradient(QPainter &painter, const QRect &area);
     void updateOpaque();
 
     LevelMeter *const q;
@@ -56,15 +44,6 @@ public:
     int shownValue;
     // Whether no stop of the gradient is translucent; follows the gradient.
     bool gradientOpaque = false;
-    // The gradient as bands of flat colour, for the size of the meter they were made for; made
-    // when painting first needs them after the gradient changed.
-    QVector<Band> bands;
-    QSize bandsSize;
-    bool gradientIsVertical = true;
-    bool bandsValid = false;
-
-private:
-    void makeBands();
 };
 
 namespace {
@@ -92,35 +71,6 @@ bool isFiniteLevel(const char *function, float level)
         return true;
     qWarning("LevelMeter::%s: ignoring a level that is not finite", function);
     return false;
-}
-
-// Whether flat fills give the very pixels of the gradient brush: on a 32-bit raster image at
-// one device pixel per pixel, moved by whole pixels only, a fill of a linear gradient along one
-// axis is a colour per row (or column) from the gradient's colour table, which a solid fill
-// repeats exactly. Anything else (a pixmap, a printer, a 16-bit image that dithers, a scale)
-// gets the gradient brush itself.
-bool fillsMatchTheGradient(const QPainter &painter)
-{
-    const QPaintEngine *engine = painter.paintEngine();
-    if (engine == nullptr || engine->type() != QPaintEngine::Raster)
-        return false;
-    const QPaintDevice *device = engine->paintDevice();
-    if (device == nullptr || device->devType() != QInternal::Image)
-        return false;
-    const auto *image = static_cast<const QImage *>(device);
-    switch (image->format()) {
-    case QImage::Format_RGB32:
-    case QImage::Format_ARGB32:
-    case QImage::Format_ARGB32_Premultiplied:
-        break;
-    default:
-        return false;
-    }
-    const QTransform &transform = painter.deviceTransform();
-    return image->devicePixelRatio() == 1.0 && transform.type() <= QTransform::TxTranslate
-        && transform.dx() == std::round(transform.dx()) && transform.dy() == std::round(transform.dy())
-        && painter.brushOrigin() == QPointF() && painter.opacity() == 1.0
-        && painter.compositionMode() == QPainter::CompositionMode_SourceOver;
 }
 
 // QProgressBar::setValue() repaints at once, which would sync and flush the whole window for
@@ -212,73 +162,6 @@ void LevelMeterPrivate::valueChanged(int previous, int current)
 void LevelMeterPrivate::updateOpaque()
 {
     q->setAttribute(Qt::WA_OpaquePaintEvent, gradientOpaque && backgroundColor.alpha() == 255);
-}
-
-void LevelMeterPrivate::makeBands()
-{
-    bands.clear();
-    bandsSize = q->size();
-    bandsValid = true;
-    const QGradient *shape = gradient.gradient();
-    const QRect inside = inner();
-    if (!gradientOpaque || shape == nullptr || shape->type() != QGradient::LinearGradient || inside.isEmpty())
-        return;
-    const auto *linear = static_cast<const QLinearGradient *>(shape);
-    if (linear->start().x() == linear->finalStop().x())
-        gradientIsVertical = true;
-    else if (linear->start().y() == linear->finalStop().y())
-        gradientIsVertical = false;
-    else
-        return;
-    // One line along the gradient's axis, filled as the meter fills it: across the axis the
-    // colour does not change.
-    const QRect line = gradientIsVertical ? QRect(inside.left(), inside.top(), 1, inside.height())
-                                          : QRect(inside.left(), inside.top(), inside.width(), 1);
-    QImage image(line.right() + 1, line.bottom() + 1, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    {
-        QPainter painter(&image);
-        painter.fillRect(line, gradient);
-    }
-    const int first = gradientIsVertical ? line.top() : line.left();
-    const int last = gradientIsVertical ? line.bottom() : line.right();
-    QRgb previous = 0;
-    for (int i = first; i <= last; ++i) {
-        const QRgb pixel = gradientIsVertical ? image.pixel(line.left(), i) : image.pixel(i, line.top());
-        if (bands.isEmpty() || pixel != previous)
-            bands.append(Band{i, i, QColor::fromRgba(pixel)});
-        else
-            bands.last().last = i;
-        previous = pixel;
-    }
-}
-
-// Fills \a area, inside the inner rectangle, with the gradient: with a flat fill for each band of
-// colour it crosses where those give the same pixels, else with the gradient brush.
-void LevelMeterPrivate::fillGradient(QPainter &painter, const QRect &area)
-{
-    if (gradientOpaque && fillsMatchTheGradient(painter)) {
-        if (!bandsValid || bandsSize != q->size())
-            makeBands();
-        if (!bands.isEmpty()) {
-            const int from = gradientIsVertical ? area.top() : area.left();
-            const int to = gradientIsVertical ? area.bottom() : area.right();
-            for (const Band &band : qAsConst(bands)) {
-                if (band.last < from)
-                    continue;
-                if (band.first > to)
-                    break;
-                const int first = std::max(band.first, from);
-                const int last = std::min(band.last, to);
-                if (gradientIsVertical)
-                    painter.fillRect(area.left(), first, area.width(), last - first + 1, band.color);
-                else
-                    painter.fillRect(first, area.top(), last - first + 1, area.height(), band.color);
-            }
-            return;
-        }
-    }
-    painter.fillRect(area, gradient);
 }
 
 LevelMeter::LevelMeter(QWidget *parent)
@@ -490,7 +373,6 @@ void LevelMeter::updateGradient()
     addStop(high, d->highColor);
     d->gradient = QBrush(gradient);
     d->gradientOpaque = d->gradient.isOpaque();
-    d->bandsValid = false;
     d->updateOpaque();
     update();
 }
@@ -520,7 +402,7 @@ void LevelMeter::paintEvent(QPaintEvent *event)
         // where the bar is lit; a translucent one is laid over it.
         const QRect gradientArea = (d->backgroundColor.alpha() == 255 ? lit : inner) & area;
         if (!gradientArea.isEmpty())
-            d->fillGradient(painter, gradientArea);
+            painter.fillRect(gradientArea, d->gradient);
         const QRect unlitArea = unlit & area;
         if (!unlitArea.isEmpty())
             painter.fillRect(unlitArea, d->backgroundColor);
