@@ -280,13 +280,20 @@ bool LabelFormat::hasFastPath() const
 
 QString LabelFormat::apply(double value) const
 {
+    QString label;
+    applyTo(value, label);
+    return label;
+}
+
+void LabelFormat::applyTo(double value, QString &label) const
+{
     if (m_fastPath != FastPath::None) {
         char digits[digitBufferSize];
         const int length = m_fastPath == FastPath::Fixed ? writeFixed(value, m_precision, digits)
                                                          : writeInteger(value, digits);
         if (length >= 0) {
-            // One allocation: the label itself.
-            QString label(m_prefix.size() + length + m_suffix.size(), Qt::Uninitialized);
+            // QString::resize keeps an unshared buffer that is large enough.
+            label.resize(m_prefix.size() + length + m_suffix.size());
             QChar *out = label.data();
             std::memcpy(static_cast<void *>(out), m_prefix.constData(),
                         size_t(m_prefix.size()) * sizeof(QChar));
@@ -295,10 +302,10 @@ QString LabelFormat::apply(double value) const
                 *out++ = QLatin1Char(digits[i]);
             std::memcpy(static_cast<void *>(out), m_suffix.constData(),
                         size_t(m_suffix.size()) * sizeof(QChar));
-            return label;
+            return;
         }
     }
-    return applyThroughPrintf(value);
+    label = applyThroughPrintf(value);
 }
 
 QString LabelFormat::applyThroughPrintf(double value) const

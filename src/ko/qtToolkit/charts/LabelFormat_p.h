@@ -43,6 +43,10 @@ public:
     /// \a value formatted; a null string when the format is invalid.
     QString apply(double value) const;
 
+    /// Sets \a label to apply(\a value), writing into its buffer where that is not shared and
+    /// large enough, so that relabelling an axis allocates nothing.
+    void applyTo(double value, QString &label) const;
+
     /// \a value formatted with QString::asprintf, never with the digit-by-digit writer: what
     /// apply() gives, only slower. The tests compare the two.
     QString applyThroughPrintf(double value) const;
@@ -54,8 +58,6 @@ private:
     enum class Conversion { None, Floating, Integer, Invalid };
     // What apply() can write without asprintf: "%.<precision>f" (Fixed) or "%d" (Integer).
     enum class FastPath { None, Fixed, Integer };
-
-    QString applyFast(double value) const;
 
     QByteArray m_format;
     Conversion m_conversion = Conversion::Invalid;
