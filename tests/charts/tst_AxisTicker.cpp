@@ -11,6 +11,7 @@
 #include <cmath>
 #include <iterator>
 #include <limits>
+#include <memory>
 #include <random>
 
 using ko::qtToolkit::charts::AxisTicker;
@@ -19,6 +20,18 @@ using ko::qtToolkit::charts::LogarithmicAxisTicker;
 using namespace tickerTest;
 
 namespace {
+
+// Subclasses that change nothing: generate() runs the overridable steps for them one by one,
+// where for the library's own classes it places the sub-ticks within the range directly.
+class SubclassedAxisTicker : public AxisTicker
+{
+};
+class SubclassedLogarithmicAxisTicker : public LogarithmicAxisTicker
+{
+};
+class SubclassedCustomAxisTicker : public CustomAxisTicker
+{
+};
 
 // A ticker with a step of its own choosing, to put ranges between two ticks.
 class FixedStepTicker : public AxisTicker
@@ -195,6 +208,8 @@ private Q_SLOTS:
 
     void matchesReferenceOnRandomRanges();
     void randomInputsKeepInvariants();
+    void ownTickersMatchSubclasses_data();
+    void ownTickersMatchSubclasses();
 };
 
 void tst_AxisTicker::defaults()
@@ -1342,6 +1357,84 @@ void tst_AxisTicker::randomInputsKeepInvariants()
     const QStringList messages = log.messages();
     for (const QString &message : messages)
         QCOMPARE(message, QStringLiteral("Invalid range for logarithmic axis"));
+}
+
+void tst_AxisTicker::ownTickersMatchSubclasses_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<double>("min");
+    QTest::addColumn<double>("max");
+    QTest::addColumn<int>("count"); // tick count, or sub tick count of the other tickers
+
+    QTest::newRow("linear worked example") << "linear" << 0.0 << 7.3 << 5;
+    QTest::newRow("linear fractions") << "linear" << 0.23 << 0.77 << 3;
+    QTest::newRow("linear negative") << "linear" << -1234.5 << -0.001 << 7;
+    QTest::newRow("linear across zero") << "linear" << -3.0 << 1e-9 << 4;
+    QTest::newRow("linear ends on ticks") << "linear" << 0.0 << 100.0 << 3;
+    QTest::newRow("linear zero width") << "linear" << 5.0 << 5.0 << 3;
+    QTest::newRow("linear huge") << "linear" << -1e308 << 1e308 << 3;
+    QTest::newRow("linear at the resolution of doubles") << "linear" << 1e16 << 1e16 + 64.0 << 5;
+    QTest::newRow("linear just above the resolution") << "linear" << 1.0 << 1.0 + 1e-12 << 3;
+    QTest::newRow("linear subnormal") << "linear" << 0.0 << 1e-310 << 3;
+    QTest::newRow("linear many ticks") << "linear" << 0.0 << 1.0 << 400;
+    QTest::newRow("logarithmic decades") << "logarithmic" << 20.0 << 20000.0 << 8;
+    QTest::newRow("logarithmic inside a decade") << "logarithmic" << 20.0 << 80.0 << 8;
+    QTest::newRow("logarithmic negative") << "logarithmic" << -5000.0 << -0.3 << 4;
+    QTest::newRow("logarithmic wide") << "logarithmic" << 1e-300 << 1e300 << 9;
+    QTest::newRow("logarithmic no sub-ticks") << "logarithmic" << 0.001 << 1e6 << 0;
+    QTest::newRow("custom worked example") << "custom" << 20.0 << 500.0 << 8;
+    QTest::newRow("custom between two ticks") << "custom" << 30.0 << 70.0 << 8;
+    QTest::newRow("custom beyond the ticks") << "custom" << 2e5 << 3e5 << 8;
+    QTest::newRow("custom around all ticks") << "custom" << 1.0 << 1e6 << 3;
+}
+
+void tst_AxisTicker::ownTickersMatchSubclasses()
+{
+    QFETCH(QString, kind);
+    QFETCH(double, min);
+    QFETCH(double, max);
+    QFETCH(int, count);
+    std::unique_ptr<AxisTicker> own;
+    std::unique_ptr<AxisTicker> subclassed;
+    if (kind == QLatin1String("linear")) {
+        own = std::make_unique<AxisTicker>();
+        subclassed = std::make_unique<SubclassedAxisTicker>();
+        own->setTickCount(count);
+        subclassed->setTickCount(count);
+    } else if (kind == QLatin1String("logarithmic")) {
+        auto logarithmic = std::make_unique<LogarithmicAxisTicker>();
+        auto other = std::make_unique<SubclassedLogarithmicAxisTicker>();
+        logarithmic->setSubTickCount(count);
+        other->setSubTickCount(count);
+        own = std::move(logarithmic);
+        subclassed = std::move(other);
+    } else {
+        auto custom = std::make_unique<CustomAxisTicker>();
+        auto other = std::make_unique<SubclassedCustomAxisTicker>();
+        for (const double tick : {10.0, 20.0, 50.0, 100.0, 200.0, 500.0, 1000.0, 1e5}) {
+            custom->addTick(tick);
+            other->addTick(tick);
+        }
+        custom->setSubTickCount(count);
+        other->setSubTickCount(count);
+        own = std::move(custom);
+        subclassed = std::move(other);
+    }
+    Values ticks;
+    Values subTicks;
+    Values expectedTicks;
+    Values expectedSubTicks;
+    // Stale contents of a larger earlier range, to be overwritten.
+    own->generate(min - 1000.0, max + 1000.0, ticks, subTicks);
+    own->generate(min, max, ticks, subTicks);
+    subclassed->generate(min, max, expectedTicks, expectedSubTicks);
+    QCOMPARE(ticks, expectedTicks);
+    QCOMPARE(subTicks, expectedSubTicks);
+    QStringList labels{QStringLiteral("a stale label longer than any of these")};
+    QStringList expectedLabels;
+    own->generateLabels(subTicks, labels);
+    subclassed->generateLabels(subTicks, expectedLabels);
+    QCOMPARE(labels, expectedLabels);
 }
 
 QTEST_APPLESS_MAIN(tst_AxisTicker)

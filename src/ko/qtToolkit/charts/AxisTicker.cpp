@@ -1,4 +1,6 @@
 #include <ko/qtToolkit/charts/AxisTicker.h>
+#include <ko/qtToolkit/charts/CustomAxisTicker.h>
+#include <ko/qtToolkit/charts/LogarithmicAxisTicker.h>
 
 #include "AxisTicker_p.h"
 #include "LabelFormat_p.h"
@@ -8,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <typeinfo>
 
 namespace ko::qtToolkit::charts {
 
@@ -58,6 +61,117 @@ bool isUsable(const QVector<double> &ticks)
     return std::adjacent_find(ticks.cbegin(), ticks.cend(),
                               [](double a, double b) { return !(a < b); })
         == ticks.cend();
+}
+
+// The library's own tickers, as opposed to subclasses an application derives from them: for these
+// generate() knows that createSubTicks() is the one of this class. The type_info objects are
+// compared by address, which is cheap; should a platform keep two copies of one, the general path
+// is taken, with the same results.
+bool hasOwnSubTicks(const std::type_info &type)
+{
+    return &type == &typeid(AxisTicker) || &type == &typeid(LogarithmicAxisTicker)
+        || &type == &typeid(CustomAxisTicker);
+}
+
+// ... and generateLabels() that tickLabel() applies the label format.
+bool hasFormattedLabels(const std::type_info &type)
+{
+    return &type == &typeid(AxisTicker) || &type == &typeid(LogarithmicAxisTicker);
+}
+
+// At most this many sub-ticks between each pair of \a tickCount ticks: fewer than asked when
+// there would be more than an axis can show.
+int fittingSubTickCount(int subTickCount, int tickCount)
+{
+    return int(std::min<qint64>(subTickCount, tickLimits::maximumSubTicks / (tickCount - 1)));
+}
+
+// Hands the sub-ticks between the ticks \a previous and \a next to \a take, ascending: previous +
+// k × (next - previous) / (subTickCount + 1) for k = 1 .. subTickCount, leaving out a value that
+// rounding puts on or beyond either tick or onto the sub-tick before it.
+template<typename Take>
+void subTicksBetween(double previous, double next, int subTickCount, Take &&take)
+{
+    const int intervals = subTickCount + 1;
+    double subStep = (next - previous) / intervals;
+    if (std::isinf(subStep)) { // ticks far apart at both ends of the double range
+        subStep = next / intervals - previous / intervals;
+    } else if (subStep > 0x1p-1000
+               && subStep > std::max(std::abs(previous), std::abs(next)) * 0x1p-40) {
+        // The step lies so far above the rounding error of these values (a few units of 2^-53
+        // of the larger tick) that every sub-tick lands strictly above the one before and below
+        // next: nothing to leave out.
+        for (int k = 1; k <= subTickCount; ++k)
+            take(previous + k * subStep);
+        return;
+    }
+    // Where the step is below the resolution of doubles, rounding can put a sub-tick onto a tick
+    // or onto its neighbour.
+    double lowest = previous;
+    for (int k = 1; k <= subTickCount; ++k) {
+        const double subTick = previous + k * subStep;
+        if (subTick > lowest && subTick < next) {
+            take(subTick);
+            lowest = subTick;
+        }
+    }
+}
+
+// \a values sized to \a size, reusing its buffer where that is not shared and large enough; the
+// contents are to be overwritten.
+double *overwritable(QVector<double> &values, int size)
+{
+    if (values.isDetached() && values.capacity() >= size)
+        values.resize(size);
+    else
+        values = QVector<double>(size);
+    return values.data();
+}
+
+// createSubTicks() of the ticks from \a first to \a last, then trimmed to [min, max], in one
+// pass: the sub-ticks are ascending, so trimming them keeps exactly those within the range, and
+// the pairs of ticks wholly outside it have none to keep.
+void subTicksWithin(double min, double max, int subTickCount, const double *first,
+                    const double *last, QVector<double> &subTicks)
+{
+    const int tickCount = int(last - first) + 1;
+    if (subTickCount >= 1 && tickCount >= 2)
+        subTickCount = fittingSubTickCount(subTickCount, tickCount);
+    if (subTickCount < 1 || tickCount < 2) {
+        overwritable(subTicks, 0);
+        return;
+    }
+    double *const out = overwritable(subTicks, (tickCount - 1) * subTickCount);
+    int count = 0;
+    for (const double *tick = first + 1; tick <= last; ++tick) {
+        const double previous = tick[-1];
+        const double next = *tick;
+        if (next <= min)
+            continue;
+        if (previous >= max)
+            break;
+        // The sub-ticks lie strictly between the two ticks.
+        if (previous >= min && next <= max) {
+            subTicksBetween(previous, next, subTickCount,
+                            [&](double subTick) { out[count++] = subTick; });
+        } else {
+            subTicksBetween(previous, next, subTickCount, [&](double subTick) {
+                if (subTick >= min && subTick <= max)
+                    out[count++] = subTick;
+            });
+        }
+    }
+    subTicks.resize(count);
+}
+
+// Keeps ticks[first .. last] of the vector; both within it.
+void keepSlice(QVector<double> &ticks, int first, int last)
+{
+    if (first == 0 && last == ticks.size() - 1)
+        return;
+    ticks.resize(last + 1);
+    if (first > 0)
+        ticks.remove(0, first);
 }
 
 } // namespace
@@ -141,17 +255,43 @@ void AxisTicker::generate(double min, double max, QVector<double> &ticks,
     const double step = computeTickStep(min, max);
     ticks = createTicks(step, min, max);
     // The library's tickers thin their own ticks; this catches a subclass's.
-    ticks = thinnedTicks(ticks);
+    if (thinningStride(ticks.size()) > 1.0)
+        ticks = thinnedTicks(ticks);
     if (!isUsable(ticks))
         ticks.clear();
-    trimTicks(min, max, ticks, true);
-    if (ticks.isEmpty()) {
+
+    // What trimTicks() keeps of the strictly ascending ticks: from the first at or above min to
+    // the last at or below max, with one outlier on each side for the sub-ticks.
+    const int size = ticks.size();
+    int low = 0;
+    while (low < size && !(ticks[low] >= min))
+        ++low;
+    int high = size - 1;
+    while (high >= 0 && !(ticks[high] <= max))
+        --high;
+    if (low == size || high < 0) {
+        ticks.clear();
         subTicks.clear();
-    } else {
-        subTicks = createSubTicks(computeSubTickCount(step), ticks);
-        trimTicks(min, max, subTicks, false);
+        return;
     }
-    trimTicks(min, max, ticks, false);
+    const int firstOutlier = std::max(low - 1, 0);
+    const int lastOutlier = std::min(high + 1, size - 1);
+    const int subTickCount = computeSubTickCount(step);
+    // One vector passed as both ticks and sub-ticks takes the general path, whose order of
+    // writes decides what it ends up holding.
+    if (hasOwnSubTicks(typeid(*this)) && &ticks != &subTicks) {
+        const double *const data = ticks.constData();
+        subTicksWithin(min, max, subTickCount, data + firstOutlier, data + lastOutlier, subTicks);
+        if (low > high)
+            ticks.clear(); // the range lies between two ticks
+        else
+            keepSlice(ticks, low, high);
+    } else {
+        keepSlice(ticks, firstOutlier, lastOutlier);
+        subTicks = createSubTicks(subTickCount, ticks);
+        trimTicks(min, max, subTicks, false);
+        trimTicks(min, max, ticks, false);
+    }
 }
 
 void AxisTicker::generateLabels(const QVector<double> &ticks, QStringList &labels) const
@@ -161,6 +301,15 @@ void AxisTicker::generateLabels(const QVector<double> &ticks, QStringList &label
     if (labels.size() > count)
         labels.erase(labels.begin() + count, labels.end());
     labels.reserve(count);
+    if (hasFormattedLabels(typeid(*this))) {
+        // The labels of the last layout are overwritten in place, mostly without allocating.
+        for (int i = 0; i < count; ++i) {
+            if (i == labels.size())
+                labels.append(QString());
+            d->labelFormat.applyTo(ticks[i], labels[i]);
+        }
+        return;
+    }
     for (int i = 0; i < count; ++i) {
         if (i < labels.size())
             labels[i] = tickLabel(ticks[i]);
@@ -235,31 +384,15 @@ QVector<double> AxisTicker::createSubTicks(int subTickCount, const QVector<doubl
     if (subTickCount < 1 || ticks.size() < 2)
         return {};
     // More sub-ticks than an axis can show: fewer between each pair of ticks, evenly spaced still.
-    subTickCount = int(std::min<qint64>(subTickCount, tickLimits::maximumSubTicks / (ticks.size() - 1)));
+    subTickCount = fittingSubTickCount(subTickCount, ticks.size());
     if (subTickCount < 1)
         return {};
-    const qint64 total = qint64(ticks.size() - 1) * subTickCount;
-    QVector<double> subTicks(static_cast<int>(total));
+    QVector<double> subTicks((ticks.size() - 1) * subTickCount);
     double *const out = subTicks.data();
     int count = 0;
-    const int intervals = subTickCount + 1;
-    for (int i = 1; i < ticks.size(); ++i) {
-        const double previous = ticks[i - 1];
-        const double next = ticks[i];
-        double subStep = (next - previous) / intervals;
-        if (std::isinf(subStep)) // ticks far apart at both ends of the double range
-            subStep = next / intervals - previous / intervals;
-        // Where the step is below the resolution of doubles, rounding can put a sub-tick onto a
-        // tick or onto its neighbour: such values are left out.
-        double lowest = previous;
-        for (int k = 1; k <= subTickCount; ++k) {
-            const double subTick = previous + k * subStep;
-            if (subTick > lowest && subTick < next) {
-                out[count++] = subTick;
-                lowest = subTick;
-            }
-        }
-    }
+    for (int i = 1; i < ticks.size(); ++i)
+        subTicksBetween(ticks[i - 1], ticks[i], subTickCount,
+                        [&](double subTick) { out[count++] = subTick; });
     subTicks.resize(count);
     return subTicks;
 }

@@ -88,7 +88,11 @@ QVector<double> CustomAxisTicker::createTicks(double, double min, double max) co
     const auto upper = std::upper_bound(lower, ticks.cend(), max);
     const auto start = lower == ticks.cbegin() ? lower : lower - 1;
     const auto stop = upper == ticks.cend() ? upper : upper + 1;
-    return thinnedTicks(QVector<double>(start, stop), start - ticks.cbegin());
+    QVector<double> result(int(stop - start));
+    std::copy(start, stop, result.begin());
+    if (result.size() <= tickLimits::maximumTicks)
+        return result;
+    return thinnedTicks(result, start - ticks.cbegin());
 }
 
 } // namespace ko::qtToolkit::charts

@@ -21,6 +21,11 @@ namespace ko::qtToolkit::charts {
  * Anything else (for example "%s", "%n", "%*f", "%Lf", two conversions, or a width of a
  * thousand characters) is invalid: it would read arguments that are not there, or take far
  * longer to format than any axis can show.
+ *
+ * The common conversions "%.<precision>f" (precision up to 9), "%f", "%d" and "%i", without flags
+ * and width and with any literal text around them, are written digit by digit instead of through
+ * asprintf, giving the same text; every other format and value (NaN, infinities, values too large
+ * for 64-bit digits) goes through asprintf.
  */
 class KO_QTTOOLKIT_EXPORT LabelFormat
 {
@@ -38,11 +43,29 @@ public:
     /// \a value formatted; a null string when the format is invalid.
     QString apply(double value) const;
 
+    /// Sets \a label to apply(\a value), writing into its buffer where that is not shared and
+    /// large enough, so that relabelling an axis allocates nothing.
+    void applyTo(double value, QString &label) const;
+
+    /// \a value formatted with QString::asprintf, never with the digit-by-digit writer: what
+    /// apply() gives, only slower. The tests compare the two.
+    QString applyThroughPrintf(double value) const;
+
+    /// Whether apply() writes the digits of this format itself (for some values at least).
+    bool hasFastPath() const;
+
 private:
     enum class Conversion { None, Floating, Integer, Invalid };
+    // What apply() can write without asprintf: "%.<precision>f" (Fixed) or "%d" (Integer).
+    enum class FastPath { None, Fixed, Integer };
 
     QByteArray m_format;
     Conversion m_conversion = Conversion::Invalid;
+    FastPath m_fastPath = FastPath::None;
+    int m_precision = 0;
+    // The literal text before and after the conversion, as asprintf shows it.
+    QString m_prefix;
+    QString m_suffix;
 };
 
 } // namespace ko::qtToolkit::charts
