@@ -287,6 +287,46 @@ private Q_SLOTS:
         QCOMPARE(shown, snapshot());
     }
 
+    // However a label's text changed, its document is the one setHtml() makes of the text.
+    void labelDocumentsAreThoseOfTheirTexts_data()
+    {
+        QTest::addColumn<QString>("format");
+        QTest::newRow("plain numbers") << QStringLiteral("%.1f");
+        QTest::newRow("with a unit") << QStringLiteral("%.0f dB");
+        QTest::newRow("markup") << QStringLiteral("<b>%.1f</b>");
+        QTest::newRow("folded spaces") << QStringLiteral("%.2f  V");
+        QTest::newRow("entity") << QStringLiteral("%.0f &amp; up");
+    }
+
+    void labelDocumentsAreThoseOfTheirTexts()
+    {
+        QFETCH(QString, format);
+        TestChart chart(QSizeF(1600, 400));
+        auto *axis = chart.addAxis(new LinearAxis, Qt::AlignBottom);
+        axis->setMinorLabelsVisible(false);
+        axis->ticker()->setTickCount(4);
+        auto *element = TestChart::element<CartesianChartAxis>(*axis);
+        const QVector<QPair<double, double>> ranges{{0.0, 10.0}, {3.0, 17.0}, {0.5, 2.0}, {-40.0, 40.0}, {3.0, 17.0}};
+        for (int step = 0; step < ranges.size(); ++step) {
+            // The format changes half way, between plain and marked-up texts for some rows.
+            axis->setLabelFormat(step < 2 ? QStringLiteral("%.1f") : format);
+            axis->setRange(ranges.at(step).first, ranges.at(step).second);
+            chart.layout();
+            const QStringList texts = element->labels();
+            QCOMPARE(texts.size(), element->labelGroup()->childItems().size());
+            for (int i = 0; i < texts.size(); ++i) {
+                QGraphicsTextItem *label = textAt(element->labelGroup(), i);
+                QGraphicsTextItem fresh;
+                fresh.document()->setDocumentMargin(label->document()->documentMargin());
+                fresh.setFont(label->font());
+                fresh.setTextWidth(label->textWidth());
+                fresh.setHtml(texts.at(i));
+                QCOMPARE(label->document()->toHtml(), fresh.document()->toHtml());
+                QCOMPARE(label->boundingRect(), fresh.boundingRect());
+            }
+        }
+    }
+
     void minorLabelsStartHiddenOnHiddenAxis()
     {
         TestChart chart;

@@ -12,6 +12,7 @@
 #include <QGraphicsItemGroup>
 #include <QGraphicsTextItem>
 #include <QTextBlock>
+#include <QTextCursor>
 #include <QTextDocument>
 #include <QTextLayout>
 #include <QtCharts/private/abstractchartlayout_p.h>
@@ -41,6 +42,8 @@ QGraphicsTextItem *createLabel(QGraphicsItem *parent, const QtCharts::QAbstractA
 {
     auto *label = new QGraphicsTextItem(parent);
     label->document()->setDocumentMargin(labelDocumentMargin);
+    // Its texts are replaced in place (see replaceLabelText()); nobody undoes a label.
+    label->document()->setUndoRedoEnabled(false);
     label->setFont(axis.labelsFont());
     label->setDefaultTextColor(color);
     label->setRotation(axis.labelsAngle());
@@ -53,6 +56,38 @@ void keepShapedText(const QTextDocument &document)
 {
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
         block.layout()->setCacheEnabled(true);
+}
+
+// Whether \a text reads the same as HTML and as plain text: no markup, no entity, no white space
+// that HTML folds or breaks lines at.
+bool readsTheSameAsHtml(const QString &text)
+{
+    if (text.isEmpty() || text.front() == QLatin1Char(' ') || text.back() == QLatin1Char(' '))
+        return false;
+    QChar previous;
+    for (const QChar c : text) {
+        const bool space = c == QLatin1Char(' ');
+        if ((space && previous == QLatin1Char(' ')) || (!space && (c.isSpace() || !c.isPrint()))
+            || c == QLatin1Char('<') || c == QLatin1Char('>') || c == QLatin1Char('&'))
+            return false;
+        previous = c;
+    }
+    return true;
+}
+
+// Shows \a text in a label's \a document, which shows \a previous. Between two plain texts the
+// text is replaced in place: it keeps the formats the first was given, which are those setHtml()
+// gives any plain text, and the document is not built anew (half the cost of a label change).
+void replaceLabelText(QTextDocument &document, const QString &previous, const QString &text)
+{
+    if (readsTheSameAsHtml(previous) && readsTheSameAsHtml(text)) {
+        QTextCursor cursor(&document);
+        cursor.select(QTextCursor::Document);
+        cursor.insertText(text);
+        return;
+    }
+    document.setHtml(text);
+    keepShapedText(document);
 }
 
 void setLinePen(const QList<QGraphicsItem *> &items, const QPen &pen)
@@ -553,12 +588,12 @@ QRectF CartesianChartAxis::setLabelText(QGraphicsTextItem *label, const QString 
     // Setting the same width or text again would lay the document out again.
     if (label->textWidth() != textWidth)
         label->setTextWidth(textWidth);
-    if (label->data(shownTextKey).toString() != shown) {
+    const QString previous = label->data(shownTextKey).toString();
+    if (previous != shown) {
         // The document directly: QGraphicsTextItem::setHtml() also resets the text cursor and
         // scrolls to it, which a label that cannot be edited never shows.
-        label->document()->setHtml(shown);
+        replaceLabelText(*label->document(), previous, shown);
         label->setData(shownTextKey, shown);
-        keepShapedText(*label->document());
     }
     // Rotation by the labels angle turns a label about its middle.
     const QPointF origin = label->boundingRect().center();
