@@ -75,19 +75,33 @@ bool readsTheSameAsHtml(const QString &text)
     return true;
 }
 
-// Shows \a text in a label's \a document, which shows \a previous. Between two plain texts the
-// text is replaced in place: it keeps the formats the first was given, which are those setHtml()
-// gives any plain text, and the document is not built anew (half the cost of a label change).
-void replaceLabelText(QTextDocument &document, const QString &previous, const QString &text)
+// Shows \a text, laid out \a textWidth wide, in \a label, which shows \a previous. Between two
+// plain texts the text is replaced in place: it keeps the formats the first was given, which are
+// those setHtml() gives any plain text, and the document is not built anew (half the cost of a
+// label change). The label's document directly: QGraphicsTextItem::setHtml() also resets the
+// text cursor and scrolls to it, which a label that cannot be edited never shows.
+void showLabelText(QGraphicsTextItem &label, const QString &previous, const QString &text, qreal textWidth)
 {
-    if (readsTheSameAsHtml(previous) && readsTheSameAsHtml(text)) {
+    // Setting the same width or text again would lay the document out again.
+    const bool newWidth = label.textWidth() != textWidth;
+    QTextDocument &document = *label.document();
+    if (previous != text && readsTheSameAsHtml(previous) && readsTheSameAsHtml(text)) {
+        // One edit, so that a new width and a new text are laid out once.
         QTextCursor cursor(&document);
+        cursor.beginEditBlock();
         cursor.select(QTextCursor::Document);
         cursor.insertText(text);
+        if (newWidth)
+            label.setTextWidth(textWidth);
+        cursor.endEditBlock();
         return;
     }
-    document.setHtml(text);
-    keepShapedText(document);
+    if (newWidth)
+        label.setTextWidth(textWidth);
+    if (previous != text) {
+        document.setHtml(text);
+        keepShapedText(document);
+    }
 }
 
 void setLinePen(const QList<QGraphicsItem *> &items, const QPen &pen)
@@ -370,6 +384,7 @@ void CartesianChartAxis::handleGridLineColorChanged(const QColor &color)
 
 void CartesianChartAxis::updateGeometry()
 {
+    dropStaleLabelTexts();
     setLabels(m_pendingLabels);
     setMinorLabels(m_pendingMinorLabels);
 
@@ -501,6 +516,7 @@ void CartesianChartAxis::layoutLabel(QGraphicsTextItem *labelItem, const QString
 
 void CartesianChartAxis::layoutMinorLabels()
 {
+    dropStaleLabelTexts();
     const QList<QGraphicsItem *> items = minorLabelItems();
     const int count = std::min({int(items.size()), int(m_minorTickValues.size()), int(m_minorLabels.size())});
     for (int j = 0; j < count; ++j) {
@@ -531,6 +547,7 @@ QSizeF CartesianChartAxis::sizeHint(Qt::SizeHint which, const QSizeF &constraint
             titleAlong = r.width();
     }
 
+    dropStaleLabelTexts();
     const qreal angle = axis()->labelsAngle();
     switch (which) {
     case Qt::MinimumSize: {
@@ -585,16 +602,10 @@ QRectF CartesianChartAxis::setLabelText(QGraphicsTextItem *label, const QString 
         }
         textWidth = labelBoundingRect(shown, 0.0).width();
     }
-    // Setting the same width or text again would lay the document out again.
-    if (label->textWidth() != textWidth)
-        label->setTextWidth(textWidth);
     const QString previous = label->data(shownTextKey).toString();
-    if (previous != shown) {
-        // The document directly: QGraphicsTextItem::setHtml() also resets the text cursor and
-        // scrolls to it, which a label that cannot be edited never shows.
-        replaceLabelText(*label->document(), previous, shown);
+    showLabelText(*label, previous, shown, textWidth);
+    if (previous != shown)
         label->setData(shownTextKey, shown);
-    }
     // Rotation by the labels angle turns a label about its middle.
     const QPointF origin = label->boundingRect().center();
     if (label->transformOriginPoint() != origin)
@@ -609,7 +620,6 @@ bool CartesianChartAxis::isTitleShown() const
 
 QRectF CartesianChartAxis::labelBoundingRect(const QString &text, qreal angle) const
 {
-    dropStaleLabelTexts();
     const QPair<QString, qreal> key(text, angle);
     auto it = m_labelRects.constFind(key);
     if (it == m_labelRects.constEnd())
@@ -650,9 +660,14 @@ void CartesianChartAxis::createItems(int count)
     if (arrowItems().isEmpty())
         arrowGroup()->addToGroup(createLine(this, axis()->linePen()));
 
+    // Setting the same font or colour again would lay the title out again.
     QGraphicsTextItem *title = titleItem();
-    title->setFont(axis()->titleFont());
-    title->setDefaultTextColor(axis()->titleBrush().color());
+    const QFont titleFont = axis()->titleFont();
+    if (title->font() != titleFont)
+        title->setFont(titleFont);
+    const QColor titleColor = axis()->titleBrush().color();
+    if (title->defaultTextColor() != titleColor)
+        title->setDefaultTextColor(titleColor);
     // Setting an empty title again would rebuild the title's empty document on every pass.
     const QString titleText = axis()->titleText();
     if (!titleText.isEmpty() || !title->document()->isEmpty())

@@ -142,6 +142,7 @@ private:
     /// The bounding rectangle of \a text in the axis's labels font, turned by \a angle, as
     /// ChartPresenter::textBoundingRect() gives it; remembered, since laying out a text is the
     /// costly part of every layout pass and most labels keep their texts from pass to pass.
+    /// Each pass or size query calls dropStaleLabelTexts() first.
     QRectF labelBoundingRect(const QString &text, qreal angle) const;
 
     void updateTicks(QVector<qreal> &ticks, QVector<qreal> &subTicks, QStringList &labels,
@@ -154,6 +155,8 @@ private:
     bool minorLabelsVisible() const;
     /// Whether the minor labels are shown: the axis is visible and so are its minor labels.
     bool minorLabelsShown() const;
+    /// Forgets the measured and truncated texts when the labels font changed, or when there are
+    /// too many of them.
     void dropStaleLabelTexts() const;
 
     // A label text turned by an angle and truncated to a width and height, and what it shows.
