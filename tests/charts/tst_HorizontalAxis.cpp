@@ -263,6 +263,34 @@ private Q_SLOTS:
         }
     }
 
+    // Measured texts are remembered per labels font: after a font change every label and the
+    // size hint are measured in the new font.
+    void labelsFontChangeMeasuresAgain_data()
+    {
+        QTest::addColumn<int>("pointSize");
+        QTest::newRow("larger") << 20;
+        QTest::newRow("smaller") << 7;
+    }
+
+    void labelsFontChangeMeasuresAgain()
+    {
+        QFETCH(int, pointSize);
+        HorizontalAxis *element = layOut(Qt::AlignBottom, bottomAxisRect);
+        const QSizeF before = element->sizeHint(Qt::PreferredSize);
+        const QFont font = ko::qtToolkit::test::fixedFont(pointSize);
+        m_axis->setLabelsFont(font);
+        element->setGeometry(bottomAxisRect, gridRect);
+        const QSizeF after = element->sizeHint(Qt::PreferredSize);
+        QVERIFY(after.height() != before.height());
+        QCOMPARE(after.height() - before.height(),
+                 ChartPresenter::textBoundingRect(font, QStringLiteral("100.00"), 0.0).height()
+                     - ChartPresenter::textBoundingRect(ko::qtToolkit::test::fixedFont(), QStringLiteral("100.00"), 0.0).height());
+        for (int i = 0; i < element->labels().size(); ++i) {
+            QGraphicsTextItem *label = textAt(element->labelGroup(), i);
+            QCOMPARE(label->textWidth(), ChartPresenter::textBoundingRect(font, label->toPlainText(), 0.0).width());
+        }
+    }
+
     void labelWidthLimitIsExact_data()
     {
         QTest::addColumn<bool>("tooWide");
