@@ -13,6 +13,8 @@
 #include <ko/qtToolkit/widget/Fader.h>
 #include <ko/qtToolkit/widget/LevelMeter.h>
 
+#include "FrameTimeReporter.h"
+
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -298,36 +300,7 @@ long long bytesPerStripInFreshProcess(const QString &kind)
     return ok ? bytes : -1;
 }
 
-// Shows the runs as usual and keeps the fastest CPU time per frame of each benchmark (CPU time:
-// the machines that run this are often shared).
-class RecordingReporter : public benchmark::ConsoleReporter
-{
-public:
-    std::map<std::string, double> secondsPerFrame;
-
-    void ReportRuns(const std::vector<Run> &reports) override
-    {
-        for (const Run &run : reports) {
-            if (run.run_type != Run::RT_Iteration || run.iterations == 0 || run.error_occurred)
-                continue;
-            const double seconds = run.cpu_accumulated_time / double(run.iterations);
-            auto found = secondsPerFrame.find(run.benchmark_name());
-            if (found == secondsPerFrame.end())
-                secondsPerFrame.emplace(run.benchmark_name(), seconds);
-            else
-                found->second = std::min(found->second, seconds);
-        }
-        ConsoleReporter::ReportRuns(reports);
-    }
-
-    double microsecondsPerFrame(const std::string &name) const
-    {
-        const auto found = secondsPerFrame.find(name);
-        return found == secondsPerFrame.end() ? std::numeric_limits<double>::quiet_NaN() : found->second * 1e6;
-    }
-};
-
-void printComparison(const RecordingReporter &reporter)
+void printComparison(const FrameTimeReporter &reporter)
 {
     const double ours = reporter.microsecondsPerFrame("BM_ToolkitConsole");
     const double stock = reporter.microsecondsPerFrame("BM_StockConsole");
@@ -370,7 +343,7 @@ int main(int argc, char **argv)
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;
-    RecordingReporter reporter;
+    FrameTimeReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     benchmark::Shutdown();
     printComparison(reporter);

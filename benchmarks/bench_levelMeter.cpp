@@ -9,6 +9,8 @@
 
 #include <ko/qtToolkit/widget/LevelMeter.h>
 
+#include "FrameTimeReporter.h"
+
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -192,46 +194,21 @@ void BM_QwtThermoWall(benchmark::State &state)
 BENCHMARK(BM_QwtThermoWall)->Unit(benchmark::kMicrosecond);
 #endif
 
-// Shows the runs as usual and keeps the fastest CPU time per frame of each benchmark (CPU time:
-// the machines that run this are often shared).
-class RecordingReporter : public benchmark::ConsoleReporter
+double microsecondsPerMeter(const FrameTimeReporter &reporter, const std::string &name)
 {
-public:
-    std::map<std::string, double> secondsPerFrame;
+    return reporter.microsecondsPerFrame(name) / meterCount;
+}
 
-    void ReportRuns(const std::vector<Run> &reports) override
-    {
-        for (const Run &run : reports) {
-            if (run.run_type != Run::RT_Iteration || run.iterations == 0)
-                continue;
-            const double seconds = run.cpu_accumulated_time / double(run.iterations);
-            auto found = secondsPerFrame.find(run.benchmark_name());
-            if (found == secondsPerFrame.end())
-                secondsPerFrame.emplace(run.benchmark_name(), seconds);
-            else
-                found->second = std::min(found->second, seconds);
-        }
-        ConsoleReporter::ReportRuns(reports);
-    }
-
-    double microsecondsPerMeter(const std::string &name) const
-    {
-        const auto found = secondsPerFrame.find(name);
-        return found == secondsPerFrame.end() ? std::numeric_limits<double>::quiet_NaN()
-                                              : found->second * 1e6 / meterCount;
-    }
-};
-
-void printComparison(const RecordingReporter &reporter)
+void printComparison(const FrameTimeReporter &reporter)
 {
-    const double ours = reporter.microsecondsPerMeter("BM_LevelMeterWall");
-    const double progressBar = reporter.microsecondsPerMeter("BM_ProgressBarWall");
+    const double ours = microsecondsPerMeter(reporter, "BM_LevelMeterWall");
+    const double progressBar = microsecondsPerMeter(reporter, "BM_ProgressBarWall");
     std::printf("\nMicroseconds per meter per frame (64 meters of 20x200 in a window, level change and the\n"
                 "backing store's paint of what changed):\n");
     std::printf("  LevelMeter            %8.2f\n", ours);
     std::printf("  QProgressBar (Fusion) %8.2f\n", progressBar);
 #ifdef KO_HAVE_QWT
-    const double thermo = reporter.microsecondsPerMeter("BM_QwtThermoWall");
+    const double thermo = microsecondsPerMeter(reporter, "BM_QwtThermoWall");
     std::printf("  QwtThermo (alarm on)  %8.2f\n", thermo);
 #endif
     std::printf("ratio ours/QProgressBar: %.3f (target <= 0.1)\n", ours / progressBar);
@@ -255,7 +232,7 @@ int main(int argc, char **argv)
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;
-    RecordingReporter reporter;
+    FrameTimeReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     benchmark::Shutdown();
     printComparison(reporter);

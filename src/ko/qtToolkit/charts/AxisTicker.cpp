@@ -174,6 +174,27 @@ void keepSlice(QVector<double> &ticks, int first, int last)
         ticks.remove(0, first);
 }
 
+// The ticks that lie in [min, max] of strictly ascending \a ticks: the first at or above min and
+// the last at or below max. None lie there when first is past the end or last before the start.
+struct TicksInRange
+{
+    int first;
+    int last;
+    bool none;
+};
+
+TicksInRange ticksInRange(const QVector<double> &ticks, double min, double max)
+{
+    const int size = ticks.size();
+    int low = 0;
+    while (low < size && !(ticks[low] >= min))
+        ++low;
+    int high = size - 1;
+    while (high >= 0 && !(ticks[high] <= max))
+        --high;
+    return {low, high, low == size || high < 0};
+}
+
 } // namespace
 
 AxisTicker::AxisTicker()
@@ -263,17 +284,14 @@ void AxisTicker::generate(double min, double max, QVector<double> &ticks,
     // What trimTicks() keeps of the strictly ascending ticks: from the first at or above min to
     // the last at or below max, with one outlier on each side for the sub-ticks.
     const int size = ticks.size();
-    int low = 0;
-    while (low < size && !(ticks[low] >= min))
-        ++low;
-    int high = size - 1;
-    while (high >= 0 && !(ticks[high] <= max))
-        --high;
-    if (low == size || high < 0) {
+    const TicksInRange inRange = ticksInRange(ticks, min, max);
+    if (inRange.none) {
         ticks.clear();
         subTicks.clear();
         return;
     }
+    const int low = inRange.first;
+    const int high = inRange.last;
     const int firstOutlier = std::max(low - 1, 0);
     const int lastOutlier = std::min(high + 1, size - 1);
     const int subTickCount = computeSubTickCount(step);
@@ -400,16 +418,13 @@ QVector<double> AxisTicker::createSubTicks(int subTickCount, const QVector<doubl
 void AxisTicker::trimTicks(double min, double max, QVector<double> &ticks, bool keepOneOutlier)
 {
     const int size = ticks.size();
-    int low = 0;
-    while (low < size && !(ticks[low] >= min))
-        ++low;
-    int high = size - 1;
-    while (high >= 0 && !(ticks[high] <= max))
-        --high;
-    if (low == size || high < 0) {
+    const TicksInRange inRange = ticksInRange(ticks, min, max);
+    if (inRange.none) {
         ticks.clear();
         return;
     }
+    const int low = inRange.first;
+    const int high = inRange.last;
     const int outliers = keepOneOutlier ? 1 : 0;
     int trimFront = low - outliers;
     int trimBack = size - 1 - high - outliers;

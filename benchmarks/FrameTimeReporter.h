@@ -1,0 +1,43 @@
+#ifndef KO_QTTOOLKIT_BENCHMARKS_FRAMETIMEREPORTER_H
+#define KO_QTTOOLKIT_BENCHMARKS_FRAMETIMEREPORTER_H
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <limits>
+#include <map>
+#include <string>
+#include <vector>
+
+// Shows the runs as usual and keeps the fastest CPU time per iteration (a frame) of each
+// benchmark; CPU time, since the machines that run these are often shared.
+class FrameTimeReporter : public benchmark::ConsoleReporter
+{
+public:
+    void ReportRuns(const std::vector<Run> &reports) override
+    {
+        for (const Run &run : reports) {
+            if (run.run_type != Run::RT_Iteration || run.iterations == 0 || run.error_occurred)
+                continue;
+            const double seconds = run.cpu_accumulated_time / double(run.iterations);
+            auto found = m_secondsPerFrame.find(run.benchmark_name());
+            if (found == m_secondsPerFrame.end())
+                m_secondsPerFrame.emplace(run.benchmark_name(), seconds);
+            else
+                found->second = std::min(found->second, seconds);
+        }
+        ConsoleReporter::ReportRuns(reports);
+    }
+
+    // Not a number when the benchmark did not run.
+    double microsecondsPerFrame(const std::string &name) const
+    {
+        const auto found = m_secondsPerFrame.find(name);
+        return found == m_secondsPerFrame.end() ? std::numeric_limits<double>::quiet_NaN() : found->second * 1e6;
+    }
+
+private:
+    std::map<std::string, double> m_secondsPerFrame;
+};
+
+#endif
