@@ -42,7 +42,7 @@ QGraphicsTextItem *createLabel(QGraphicsItem *parent, const QtCharts::QAbstractA
 {
     auto *label = new QGraphicsTextItem(parent);
     label->document()->setDocumentMargin(labelDocumentMargin);
-    // Its texts are replaced in place (see replaceLabelText()); nobody undoes a label.
+    // Its texts are replaced in place (see showLabelText()); nobody undoes a label.
     label->document()->setUndoRedoEnabled(false);
     label->setFont(axis.labelsFont());
     label->setDefaultTextColor(color);
@@ -86,7 +86,7 @@ void showLabelText(QGraphicsTextItem &label, const QString &previous, const QStr
     const bool newWidth = label.textWidth() != textWidth;
     QTextDocument &document = *label.document();
     if (previous != text && readsTheSameAsHtml(previous) && readsTheSameAsHtml(text)) {
-        // One edit, so that a new width and a new text are laid out once.
+        // The new width goes into the same edit as the new text.
         QTextCursor cursor(&document);
         cursor.beginEditBlock();
         cursor.select(QTextCursor::Document);
