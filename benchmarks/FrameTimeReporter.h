@@ -40,4 +40,19 @@ private:
     std::map<std::string, double> m_secondsPerFrame;
 };
 
+// Runs the benchmarks the command line selects through a FrameTimeReporter, then hands it to
+// \a printComparison; the exit code for main().
+template<typename PrintComparison>
+int runBenchmarks(int &argc, char **argv, PrintComparison printComparison)
+{
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    FrameTimeReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    benchmark::Shutdown();
+    printComparison(reporter);
+    return 0;
+}
+
 #endif

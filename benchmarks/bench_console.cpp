@@ -340,12 +340,5 @@ int main(int argc, char **argv)
         return 0;
     }
 
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    FrameTimeReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    benchmark::Shutdown();
-    printComparison(reporter);
-    return 0;
+    return runBenchmarks(argc, argv, printComparison);
 }

@@ -5,6 +5,9 @@
 #include <QEvent>
 #include <QMouseEvent>
 #include <QObject>
+#include <QPaintEvent>
+#include <QRegion>
+#include <QVector>
 #include <QSlider>
 #include <QStyle>
 #include <QStyleOptionSlider>
@@ -34,17 +37,21 @@ inline void moveHeld(QWidget *widget, const QPoint &position)
     QApplication::sendEvent(widget, &event);
 }
 
-/// Counts the paint events of the widgets it is installed on as event filter.
+/// Counts the paint events of the widgets it is installed on as event filter, and records the
+/// region of each.
 class PaintCounter : public QObject
 {
 public:
     int paints = 0;
+    QVector<QRegion> regions;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (event->type() == QEvent::Paint)
+        if (event->type() == QEvent::Paint) {
             ++paints;
+            regions.append(static_cast<QPaintEvent *>(event)->region());
+        }
         return QObject::eventFilter(watched, event);
     }
 };

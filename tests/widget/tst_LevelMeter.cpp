@@ -88,21 +88,6 @@ double rowOf(double fraction, int h)
     return (h - 1) - fraction * (h - 2);
 }
 
-// Records the region of every paint event of the widgets it is installed on.
-class PaintRegions : public QObject
-{
-public:
-    QVector<QRegion> regions;
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint)
-            regions.append(static_cast<QPaintEvent *>(event)->region());
-        return QObject::eventFilter(watched, event);
-    }
-};
-
 // A meter inside a shown window, away from the window's corner, painted through the window's
 // backing store as on a screen.
 struct MeterInWindow
@@ -875,7 +860,7 @@ void tst_LevelMeter::levelChangeRepaintsTheChangedStrip()
     QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
     shown.meter->setLevel(from);
     QCoreApplication::processEvents();
-    PaintRegions painted;
+    PaintCounter painted;
     shown.meter->installEventFilter(&painted);
 
     QSignalSpy values(shown.meter, &QProgressBar::valueChanged);
@@ -913,7 +898,7 @@ void tst_LevelMeter::noRepaintWhileTheLitLengthStays()
     shown.meter->setLevel(from);
     QCoreApplication::processEvents();
     const int before = shown.meter->value();
-    PaintRegions painted;
+    PaintCounter painted;
     shown.meter->installEventFilter(&painted);
 
     // The value and its signal change as always; the pixels do not.
@@ -939,7 +924,7 @@ void tst_LevelMeter::valueSetPastTheMeterRepaintsItWhole()
     shown.meter->setTextVisible(false);
     shown.meter->setValue(54);
     QCoreApplication::processEvents();
-    PaintRegions painted;
+    PaintCounter painted;
     shown.meter->installEventFilter(&painted);
 
     shown.meter->setLevel(10.0f);
@@ -956,7 +941,7 @@ void tst_LevelMeter::whatAReceiverOfValueChangedRepaintsIsPainted()
     QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
     QCoreApplication::processEvents();
     connect(shown.meter, &QProgressBar::valueChanged, shown.meter, [&shown] { shown.meter->setMuted(true); });
-    PaintRegions painted;
+    PaintCounter painted;
     shown.meter->installEventFilter(&painted);
 
     shown.meter->setLevel(-20.0f);
