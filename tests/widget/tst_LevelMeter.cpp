@@ -6,6 +6,7 @@
 #include <QBackingStore>
 #include <QMetaProperty>
 #include <QPaintEvent>
+#include <QSet>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -160,6 +161,7 @@ private Q_SLOTS:
     void levelChangeRepaintsTheChangedStrip();
     void noRepaintWhileTheLitLengthStays_data();
     void noRepaintWhileTheLitLengthStays();
+    void stripsOfAWallEndOnTheWindowGrid();
     void valueSetPastTheMeterRepaintsItWhole();
     void whatAReceiverOfValueChangedRepaintsIsPainted();
     void stripsPaintTheSamePixelsAsAFullRepaint_data();
@@ -837,16 +839,18 @@ void tst_LevelMeter::levelChangeRepaintsTheChangedStrip_data()
     QTest::addColumn<float>("to");
     QTest::addColumn<QRect>("strip");
 
-    // 20 by 200 (or 200 by 20), bar range 0 to 100: -20 lights 105 pixels, +10 lights 186, -55
-    // lights 12, +15 the whole inside of 198.
-    QTest::newRow("vertical rising from nothing") << Qt::Vertical << -60.0f << -20.0f << QRect(1, 94, 18, 105);
-    QTest::newRow("vertical falling to nothing") << Qt::Vertical << -20.0f << -60.0f << QRect(1, 94, 18, 105);
-    QTest::newRow("vertical rising between zones") << Qt::Vertical << -20.0f << 10.0f << QRect(1, 13, 18, 81);
-    QTest::newRow("vertical falling between zones") << Qt::Vertical << 10.0f << -20.0f << QRect(1, 13, 18, 81);
-    QTest::newRow("vertical to full") << Qt::Vertical << 10.0f << 15.0f << QRect(1, 1, 18, 12);
-    QTest::newRow("horizontal rising from nothing") << Qt::Horizontal << -60.0f << -55.0f << QRect(1, 1, 12, 18);
-    QTest::newRow("horizontal rising") << Qt::Horizontal << -55.0f << -20.0f << QRect(13, 1, 93, 18);
-    QTest::newRow("horizontal falling from full") << Qt::Horizontal << 15.0f << 10.0f << QRect(187, 1, 12, 18);
+    // 20 by 200 (or 200 by 20) at (11, 7) in its window, bar range 0 to 100: -20 lights 105
+    // pixels, +10 lights 186, -55 lights 12, +15 the whole inside of 198. The strip between two
+    // lengths reaches out to the window's 16-pixel grid (rows 0, 16, 32... of the window), within
+    // the inside: rows 94 to 198 of the meter are 101 to 205 of the window, widened to 96 to 207.
+    QTest::newRow("vertical rising from nothing") << Qt::Vertical << -60.0f << -20.0f << QRect(1, 89, 18, 110);
+    QTest::newRow("vertical falling to nothing") << Qt::Vertical << -20.0f << -60.0f << QRect(1, 89, 18, 110);
+    QTest::newRow("vertical rising between zones") << Qt::Vertical << -20.0f << 10.0f << QRect(1, 9, 18, 96);
+    QTest::newRow("vertical falling between zones") << Qt::Vertical << 10.0f << -20.0f << QRect(1, 9, 18, 96);
+    QTest::newRow("vertical to full") << Qt::Vertical << 10.0f << 15.0f << QRect(1, 1, 18, 24);
+    QTest::newRow("horizontal rising from nothing") << Qt::Horizontal << -60.0f << -55.0f << QRect(1, 1, 20, 18);
+    QTest::newRow("horizontal rising") << Qt::Horizontal << -55.0f << -20.0f << QRect(5, 1, 112, 18);
+    QTest::newRow("horizontal falling from full") << Qt::Horizontal << 15.0f << 10.0f << QRect(181, 1, 18, 18);
 }
 
 void tst_LevelMeter::levelChangeRepaintsTheChangedStrip()
@@ -870,6 +874,55 @@ void tst_LevelMeter::levelChangeRepaintsTheChangedStrip()
     QCOMPARE(painted.regions.size(), 0);
     QTRY_COMPARE(painted.regions.size(), 1);
     QCOMPARE(painted.regions.first(), QRegion(strip));
+}
+
+// Side by side, meters at different levels repaint strips whose ends lie on the window's
+// 16-pixel grid (or on the edges of the insides), so that the strips of a whole wall end on few
+// rows.
+void tst_LevelMeter::stripsOfAWallEndOnTheWindowGrid()
+{
+    constexpr int count = 8;
+    QWidget window;
+    window.resize(count * 20 + 20, 220);
+    std::vector<LevelMeter *> meters;
+    PaintCounter painted[count];
+    for (int i = 0; i < count; ++i) {
+        auto *meter = new LevelMeter(&window);
+        meter->setOrientation(Qt::Vertical);
+        meter->setGeometry(5 + 20 * i, 9, 20, 200);
+        meters.push_back(meter);
+    }
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCoreApplication::processEvents();
+    for (int i = 0; i < count; ++i)
+        meters[std::size_t(i)]->installEventFilter(&painted[i]);
+
+    // The inside of each meter covers rows 10 to 207 of the window.
+    const float frames[][count] = {{-60.0f, -50.0f, -41.0f, -33.3f, -20.0f, -7.5f, 3.0f, 15.0f},
+                                   {-3.0f, -58.0f, 12.0f, -21.0f, -19.0f, 1.0f, -44.0f, -60.0f}};
+    QSet<int> ends;
+    for (const auto &levels : frames) {
+        for (int i = 0; i < count; ++i)
+            meters[std::size_t(i)]->setLevel(levels[i]);
+        QCoreApplication::processEvents();
+    }
+    int strips = 0;
+    for (int i = 0; i < count; ++i) {
+        for (const QRegion &region : painted[i].regions) {
+            QCOMPARE(region.rectCount(), 1);
+            const QRect strip = region.boundingRect().translated(meters[std::size_t(i)]->pos());
+            QCOMPARE(strip.left(), 5 + 20 * i + 1);
+            QCOMPARE(strip.width(), 18);
+            QVERIFY2(strip.top() == 10 || strip.top() % 16 == 0, qPrintable(QString::number(strip.top())));
+            QVERIFY2(strip.bottom() == 207 || strip.bottom() % 16 == 15, qPrintable(QString::number(strip.bottom())));
+            ends << strip.top() << strip.bottom();
+            ++strips;
+        }
+    }
+    // Every meter but the first changed in the first frame, and every one in the second.
+    QCOMPARE(strips, 2 * count - 1);
+    QVERIFY(ends.size() <= 200 / 16 * 2 + 2);
 }
 
 void tst_LevelMeter::noRepaintWhileTheLitLengthStays_data()

@@ -107,6 +107,26 @@ private:
     const bool m_held;
 };
 
+// Strip ends are moved out to the lines of a grid of this pitch fixed in the window. Before
+// painting, the backing store unites the update regions of all the widgets of a window into one
+// region; strips that end at different heights side by side, as a wall of meters gives, cut that
+// region into a band per distinct end, and uniting them costs more with every band. On the grid,
+// the strips of a wall share their ends, and painting a few more rows costs far less.
+constexpr int stripGridPitch = 16;
+
+int gridLineAtOrBelow(int position)
+{
+    return position >= 0 ? position / stripGridPitch * stripGridPitch
+                         : -((stripGridPitch - 1 - position) / stripGridPitch * stripGridPitch);
+}
+
+// Widens [first, last] to whole grid cells, with the grid offset by \a origin, within [low, high].
+void widenToGrid(int &first, int &last, int origin, int low, int high)
+{
+    first = std::max(gridLineAtOrBelow(first + origin) - origin, low);
+    last = std::min(gridLineAtOrBelow(last + origin) + stripGridPitch - 1 - origin, high);
+}
+
 } // namespace
 
 LevelMeterPrivate::LevelMeterPrivate(LevelMeter *meter)
@@ -132,7 +152,7 @@ int LevelMeterPrivate::litLength(int value) const
 }
 
 // Asks for a repaint of what changed between the lit lengths of two values: the strip between
-// them, or nothing when both light the same pixels.
+// them, widened to the window's grid, or nothing when both light the same pixels.
 void LevelMeterPrivate::valueChanged(int previous, int current)
 {
     if (previous != shownValue) {
@@ -146,10 +166,18 @@ void LevelMeterPrivate::valueChanged(int previous, int current)
             const QRect inside = inner();
             const int shorter = std::min(from, to);
             const int longer = std::max(from, to);
-            if (q->orientation() == Qt::Vertical)
-                q->update(inside.left(), inside.bottom() + 1 - longer, inside.width(), longer - shorter);
-            else
-                q->update(inside.left() + shorter, inside.top(), longer - shorter, inside.height());
+            const QPoint origin = q->mapTo(q->window(), QPoint());
+            if (q->orientation() == Qt::Vertical) {
+                int top = inside.bottom() + 1 - longer;
+                int bottom = inside.bottom() - shorter;
+                widenToGrid(top, bottom, origin.y(), inside.top(), inside.bottom());
+                q->update(QRect(QPoint(inside.left(), top), QPoint(inside.right(), bottom)));
+            } else {
+                int left = inside.left() + shorter;
+                int right = inside.left() + longer - 1;
+                widenToGrid(left, right, origin.x(), inside.left(), inside.right());
+                q->update(QRect(QPoint(left, inside.top()), QPoint(right, inside.bottom())));
+            }
         }
     }
     shownValue = current;
