@@ -128,6 +128,7 @@ std::vector<Row> rows()
         row<widget::GenericDataFader, widget::Fader>("widget::GenericDataFader", OwnPointer),
         row<widget::Keypad, QGroupBox>("widget::Keypad", OwnPointer),
         row<widget::LevelMeter, QProgressBar>("widget::LevelMeter", OwnPointer),
+        row<widget::LevelMeterNotifier, QObject>("widget::LevelMeterNotifier", BasePointerOnly),
         row<widget::ListWidget, QListWidget>("widget::ListWidget", OwnPointer),
         row<widget::TableWidget, QTableWidget>("widget::TableWidget", OwnPointer),
         row<widget::TextEntry, QWidget>("widget::TextEntry", OwnPointer),

@@ -1,4 +1,5 @@
 #include <ko/qtToolkit/widget/LevelMeter.h>
+#include <ko/qtToolkit/widget/LevelMeter_p.h>
 
 #include <TestSupport.h>
 #include <WidgetSupport.h>
@@ -16,6 +17,9 @@
 using ko::qtToolkit::test::artifactPath;
 using ko::qtToolkit::test::PaintCounter;
 using ko::qtToolkit::widget::LevelMeter;
+using ko::qtToolkit::widget::LevelMeterClock;
+using ko::qtToolkit::widget::LevelMeterNotifier;
+using ko::qtToolkit::widget::setLevelMeterClock;
 
 namespace {
 
@@ -120,6 +124,62 @@ struct MeterInWindow
     }
 };
 
+
+// A clock that moves only when a test says so, read by the meters while a FakeClock lives.
+qint64 fakeNow = 0;
+
+qint64 fakeClock()
+{
+    return fakeNow;
+}
+
+struct FakeClock
+{
+    LevelMeterClock previous = setLevelMeterClock(fakeClock);
+
+    explicit FakeClock(qint64 now) { fakeNow = now; }
+    ~FakeClock() { setLevelMeterClock(previous); }
+    FakeClock(const FakeClock &) = delete;
+    FakeClock &operator=(const FakeClock &) = delete;
+};
+
+// Levels that arrive at given times, with the peak expected after each.
+struct TimedLevel
+{
+    qint64 time;
+    float level;
+    float peak;
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(QVector<TimedLevel>)
+
+namespace {
+
+// The first row of a vertical meter (or last column of a horizontal one) lit for \a level.
+int litEdge(const LevelMeter &meter, float level)
+{
+    const bool vertical = meter.orientation() == Qt::Vertical;
+    const int extent = vertical ? meter.height() : meter.width();
+    const int length = std::min(meter.mapValueToPixels(meter.mapLevelToValue(level)), extent - 2);
+    return vertical ? extent - 1 - length : length;
+}
+
+// Counts the mouse presses that reach a widget.
+class PressWatcher : public QObject
+{
+public:
+    int presses = 0;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::MouseButtonPress)
+            ++presses;
+        return QObject::eventFilter(watched, event);
+    }
+};
 } // namespace
 
 class tst_LevelMeter : public QObject
@@ -128,6 +188,17 @@ class tst_LevelMeter : public QObject
 
 private Q_SLOTS:
     void defaults();
+    void peakHoldSettings();
+    void peakFollowsTheLevels_data();
+    void peakFollowsTheLevels();
+    void peakLineInTheZoneColour_data();
+    void peakLineInTheZoneColour();
+    void clipLatch();
+    void clipLevelFollowsTheMaximumUntilSet();
+    void tapReleasesTheClipLatch();
+    void clipCap_data();
+    void clipCap();
+    void peakAndClipPaintTheSamePixelsAsAFullRepaint();
     void properties();
     void setLevel_data();
     void setLevel();
@@ -183,6 +254,326 @@ void tst_LevelMeter::defaults()
     QCOMPARE(meter.maximum(), plain.maximum());
     QCOMPARE(meter.value(), plain.value());
     QCOMPARE(meter.orientation(), plain.orientation());
+}
+
+void tst_LevelMeter::peakHoldSettings()
+{
+    LevelMeter meter;
+    QVERIFY(!meter.isPeakHoldEnabled());
+    QCOMPARE(meter.peakHoldTime(), 1500);
+    QCOMPARE(meter.peakDecayRate(), 20.0f);
+    // While peak hold is off, the peak is the level.
+    meter.setLevel(5.0f);
+    meter.setLevel(-30.0f);
+    QCOMPARE(meter.peakLevel(), -30.0f);
+
+    meter.setPeakHoldTime(-20);
+    QCOMPARE(meter.peakHoldTime(), 0);
+    meter.setPeakHoldTime(250);
+    QCOMPARE(meter.peakHoldTime(), 250);
+    QTest::ignoreMessage(QtWarningMsg, "LevelMeter::setPeakDecayRate: ignoring a rate that is negative or not a number");
+    meter.setPeakDecayRate(-1.0f);
+    QTest::ignoreMessage(QtWarningMsg, "LevelMeter::setPeakDecayRate: ignoring a rate that is negative or not a number");
+    meter.setPeakDecayRate(std::numeric_limits<float>::quiet_NaN());
+    QCOMPARE(meter.peakDecayRate(), 20.0f);
+    meter.setPeakDecayRate(0.0f);
+    QCOMPARE(meter.peakDecayRate(), 0.0f);
+
+    // Switched on, the peak starts at the level; switched off, it is the level again.
+    meter.setPeakHoldEnabled(true);
+    QVERIFY(meter.isPeakHoldEnabled());
+    QCOMPARE(meter.peakLevel(), -30.0f);
+    meter.setLevel(0.0f);
+    meter.setLevel(-50.0f);
+    QCOMPARE(meter.peakLevel(), 0.0f);
+    meter.resetPeak();
+    QCOMPARE(meter.peakLevel(), -50.0f);
+    meter.setLevel(3.0f);
+    meter.setPeakHoldEnabled(false);
+    meter.setLevel(-10.0f);
+    QCOMPARE(meter.peakLevel(), -10.0f);
+}
+
+void tst_LevelMeter::peakFollowsTheLevels_data()
+{
+    QTest::addColumn<int>("holdTime");
+    QTest::addColumn<float>("decayRate");
+    QTest::addColumn<QVector<TimedLevel>>("levels");
+
+    // Peak hold is switched on at time 0 with the level at -60.
+    QTest::newRow("raised at once") << 1500 << 20.0f
+                                    << QVector<TimedLevel>{{10, -30.0f, -30.0f}, {20, -10.0f, -10.0f}, {30, -40.0f, -10.0f}};
+    QTest::newRow("held, then falling at 20 dB/s")
+        << 1500 << 20.0f
+        << QVector<TimedLevel>{{0, 0.0f, 0.0f},      {1500, -40.0f, 0.0f},  {2000, -40.0f, -10.0f},
+                               {2500, -40.0f, -20.0f}, {2600, -55.0f, -22.0f}};
+    QTest::newRow("never below the level, which holds it anew")
+        << 1000 << 20.0f
+        << QVector<TimedLevel>{{0, 0.0f, 0.0f}, {2000, -30.0f, -20.0f}, {2600, -30.0f, -30.0f},
+                               {3500, -60.0f, -30.0f}, {3700, -60.0f, -32.0f}};
+    QTest::newRow("a higher level during the fall") << 100 << 10.0f
+                                                    << QVector<TimedLevel>{{0, -10.0f, -10.0f}, {1100, -40.0f, -20.0f},
+                                                                           {1200, -15.0f, -15.0f}, {1300, -40.0f, -15.0f},
+                                                                           {1400, -40.0f, -16.0f}};
+    QTest::newRow("rate 0 holds for ever") << 0 << 0.0f
+                                           << QVector<TimedLevel>{{0, 12.0f, 12.0f}, {100000, -60.0f, 12.0f}};
+    QTest::newRow("levels beyond the range are clamped") << 0 << 1000.0f
+                                                         << QVector<TimedLevel>{{0, 40.0f, 15.0f}, {10, -100.0f, 5.0f},
+                                                                                {1000, -100.0f, -60.0f}};
+}
+
+void tst_LevelMeter::peakFollowsTheLevels()
+{
+    QFETCH(int, holdTime);
+    QFETCH(float, decayRate);
+    QFETCH(QVector<TimedLevel>, levels);
+
+    const FakeClock clock(0);
+    LevelMeter meter;
+    meter.setPeakHoldTime(holdTime);
+    meter.setPeakDecayRate(decayRate);
+    meter.setPeakHoldEnabled(true);
+    QCOMPARE(meter.peakLevel(), -60.0f);
+    for (const TimedLevel &step : levels) {
+        fakeNow = step.time;
+        meter.setLevel(step.level);
+        QVERIFY2(std::abs(meter.peakLevel() - step.peak) < 1e-4f,
+                 qPrintable(QStringLiteral("at %1 ms: peak %2, expected %3").arg(step.time).arg(meter.peakLevel()).arg(step.peak)));
+    }
+}
+
+void tst_LevelMeter::peakLineInTheZoneColour_data()
+{
+    QTest::addColumn<Qt::Orientation>("orientation");
+    QTest::addColumn<float>("peak");
+    QTest::addColumn<QColor>("color");
+
+    QTest::newRow("vertical, low zone") << Qt::Vertical << -40.0f << low;
+    QTest::newRow("vertical, at the medium threshold") << Qt::Vertical << -20.0f << low;
+    QTest::newRow("vertical, medium zone") << Qt::Vertical << 0.0f << medium;
+    QTest::newRow("vertical, at the high threshold") << Qt::Vertical << 10.0f << high;
+    QTest::newRow("vertical, at the top") << Qt::Vertical << 15.0f << high;
+    QTest::newRow("horizontal, medium zone") << Qt::Horizontal << -5.0f << medium;
+    QTest::newRow("horizontal, low zone") << Qt::Horizontal << -50.0f << low;
+}
+
+void tst_LevelMeter::peakLineInTheZoneColour()
+{
+    QFETCH(Qt::Orientation, orientation);
+    QFETCH(float, peak);
+    QFETCH(QColor, color);
+
+    const FakeClock clock(0);
+    LevelMeter meter;
+    meter.setOrientation(orientation);
+    meter.resize(orientation == Qt::Vertical ? QSize(20, 200) : QSize(200, 20));
+    meter.setPeakHoldEnabled(true);
+    meter.setLevel(peak);
+    meter.setLevel(-60.0f);
+    QCOMPARE(meter.peakLevel(), peak);
+    const QImage image = paint(meter, QStringLiteral("peak-%1").arg(QTest::currentDataTag()));
+
+    // Two pixels thick across the inside, at the end of a bar lit up to the peak.
+    const int edge = litEdge(meter, peak);
+    if (orientation == Qt::Vertical) {
+        for (int x = 1; x < 19; ++x) {
+            QCOMPARE(at(image, x, edge), color);
+            QCOMPARE(at(image, x, edge + 1), color);
+        }
+        QCOMPARE(at(image, 10, edge - 1), edge - 1 == 0 ? frame : background);
+        QCOMPARE(at(image, 10, edge + 2), background);
+    } else {
+        for (int y = 1; y < 19; ++y) {
+            QCOMPARE(at(image, edge, y), color);
+            QCOMPARE(at(image, edge - 1, y), color);
+        }
+        QCOMPARE(at(image, edge + 1, 10), background);
+        QCOMPARE(at(image, edge - 2, 10), background);
+    }
+
+    // Switched off, the line goes.
+    meter.setPeakHoldEnabled(false);
+    const QImage plain = paint(meter, QStringLiteral("peak-off-%1").arg(QTest::currentDataTag()));
+    const QPoint onLine = orientation == Qt::Vertical ? QPoint(10, edge) : QPoint(edge, 10);
+    QCOMPARE(at(plain, onLine.x(), onLine.y()), background);
+}
+
+void tst_LevelMeter::clipLatch()
+{
+    LevelMeter meter;
+    QVERIFY(!meter.isClipLatchEnabled());
+    QSignalSpy clipped(meter.notifier(), &LevelMeterNotifier::clippedChanged);
+    QCOMPARE(meter.notifier()->parent(), &meter);
+
+    // Off, nothing latches.
+    meter.setLevel(15.0f);
+    meter.setLevel(30.0f);
+    QVERIFY(!meter.isClipped());
+
+    meter.setClipLatchEnabled(true);
+    meter.setLevel(14.9f);
+    QVERIFY(!meter.isClipped());
+    QCOMPARE(clipped.count(), 0);
+    meter.setLevel(15.0f);
+    QVERIFY(meter.isClipped());
+    QCOMPARE(clipped.count(), 1);
+    QCOMPARE(clipped.last().at(0).toBool(), true);
+    // Latched: more clipping and falling levels change nothing.
+    meter.setLevel(40.0f);
+    meter.setLevel(-60.0f);
+    QVERIFY(meter.isClipped());
+    QCOMPARE(clipped.count(), 1);
+
+    meter.resetClip();
+    QVERIFY(!meter.isClipped());
+    QCOMPARE(clipped.count(), 2);
+    QCOMPARE(clipped.last().at(0).toBool(), false);
+    meter.resetClip();
+    QCOMPARE(clipped.count(), 2);
+
+    // Switching the latch off releases it.
+    meter.setLevel(20.0f);
+    QCOMPARE(clipped.count(), 3);
+    meter.setClipLatchEnabled(false);
+    QVERIFY(!meter.isClipped());
+    QCOMPARE(clipped.count(), 4);
+    QCOMPARE(clipped.last().at(0).toBool(), false);
+}
+
+void tst_LevelMeter::clipLevelFollowsTheMaximumUntilSet()
+{
+    LevelMeter meter;
+    meter.setClipLatchEnabled(true);
+    QCOMPARE(meter.clipLevel(), 15.0f);
+    meter.setMaximumLevel(6.0f);
+    QCOMPARE(meter.clipLevel(), 6.0f);
+    meter.setLevelRange(-80.0f, 0.0f);
+    QCOMPARE(meter.clipLevel(), 0.0f);
+    meter.setLevel(0.0f);
+    QVERIFY(meter.isClipped());
+    meter.resetClip();
+
+    // Set above the maximum, it catches levels as given, before clamping.
+    meter.setClipLevel(3.0f);
+    meter.setMaximumLevel(10.0f);
+    QCOMPARE(meter.clipLevel(), 3.0f);
+    meter.setLevelRange(-80.0f, 0.0f);
+    meter.setLevel(2.0f);
+    QCOMPARE(meter.level(), 0.0f);
+    QVERIFY(!meter.isClipped());
+    meter.setLevel(3.5f);
+    QVERIFY(meter.isClipped());
+
+    QTest::ignoreMessage(QtWarningMsg, "LevelMeter::setClipLevel: ignoring a level that is not finite");
+    meter.setClipLevel(std::numeric_limits<float>::infinity());
+    QCOMPARE(meter.clipLevel(), 3.0f);
+    // A level that is not a number does not clip.
+    meter.resetClip();
+    meter.setLevel(std::numeric_limits<float>::quiet_NaN());
+    QVERIFY(!meter.isClipped());
+}
+
+// A tap on the meter releases the latch, by mouse or by touch; a press that ends off the meter
+// does not. With the latch off, presses go on to the parent as before.
+void tst_LevelMeter::tapReleasesTheClipLatch()
+{
+    MeterInWindow shown(Qt::Vertical, QSize(20, 200));
+    QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
+    LevelMeter &meter = *shown.meter;
+    meter.setClipLatchEnabled(true);
+    QSignalSpy clipped(meter.notifier(), &LevelMeterNotifier::clippedChanged);
+    PressWatcher parentPresses;
+    shown.window.installEventFilter(&parentPresses);
+
+    meter.setLevel(15.0f);
+    QVERIFY(meter.isClipped());
+    QTest::mouseClick(&meter, Qt::LeftButton, {}, QPoint(10, 100));
+    QVERIFY(!meter.isClipped());
+    QCOMPARE(clipped.count(), 2);
+
+    meter.setLevel(15.0f);
+    QTest::mousePress(&meter, Qt::LeftButton, {}, QPoint(10, 100));
+    QTest::mouseRelease(&meter, Qt::LeftButton, {}, QPoint(10, 250));
+    QVERIFY(meter.isClipped());
+    // The meter took those presses; one of another button is not its own.
+    QCOMPARE(parentPresses.presses, 0);
+    QTest::mouseClick(&meter, Qt::RightButton, {}, QPoint(10, 100));
+    QVERIFY(meter.isClipped());
+    QCOMPARE(parentPresses.presses, 1);
+
+    auto *touchScreen = QTest::createTouchDevice();
+    const QPoint onMeter = meter.mapTo(&shown.window, QPoint(10, 50));
+    QTest::touchEvent(&shown.window, touchScreen).press(0, onMeter, &shown.window);
+    QTest::touchEvent(&shown.window, touchScreen).release(0, onMeter, &shown.window);
+    QTRY_VERIFY(!meter.isClipped());
+    QCOMPARE(clipped.count(), 4);
+
+    // Off, a press is not the meter's either.
+    QCOMPARE(parentPresses.presses, 1);
+    meter.setClipLatchEnabled(false);
+    QTest::mouseClick(&meter, Qt::LeftButton, {}, QPoint(10, 100));
+    QCOMPARE(parentPresses.presses, 2);
+}
+
+void tst_LevelMeter::clipCap_data()
+{
+    QTest::addColumn<Qt::Orientation>("orientation");
+    QTest::newRow("vertical") << Qt::Vertical;
+    QTest::newRow("horizontal") << Qt::Horizontal;
+}
+
+void tst_LevelMeter::clipCap()
+{
+    QFETCH(Qt::Orientation, orientation);
+
+    LevelMeter meter;
+    meter.setOrientation(orientation);
+    meter.resize(orientation == Qt::Vertical ? QSize(20, 200) : QSize(200, 20));
+    meter.setClipLatchEnabled(true);
+    meter.setLevel(15.0f);
+    meter.setLevel(-60.0f);
+    QVERIFY(meter.isClipped());
+    const QImage image = paint(meter, QStringLiteral("clip-%1").arg(QTest::currentDataTag()));
+
+    // Four pixels of red inside the frame at the top (the right end), the rest unlit.
+    const auto pixel = [&](const QImage &painted, int along, int across) {
+        return orientation == Qt::Vertical ? at(painted, across, along) : at(painted, 199 - along, across);
+    };
+    for (int across = 1; across < 19; ++across) {
+        for (int along = 1; along <= 4; ++along)
+            QCOMPARE(pixel(image, along, across), red);
+        QCOMPARE(pixel(image, 5, across), background);
+        QCOMPARE(pixel(image, 0, across), frame);
+    }
+
+    meter.resetClip();
+    const QImage released = paint(meter, QStringLiteral("clip-released-%1").arg(QTest::currentDataTag()));
+    QCOMPARE(pixel(released, 2, 10), background);
+}
+
+// With peak hold and the clip latch on, what the strips repaint equals a full repaint.
+void tst_LevelMeter::peakAndClipPaintTheSamePixelsAsAFullRepaint()
+{
+    const FakeClock clock(0);
+    MeterInWindow shown(Qt::Vertical, QSize(20, 200));
+    LevelMeter &meter = *shown.meter;
+    meter.setPeakHoldEnabled(true);
+    meter.setPeakHoldTime(100);
+    meter.setClipLatchEnabled(true);
+    meter.setClipLevel(12.0f);
+    QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
+    QCoreApplication::processEvents();
+
+    const float levels[] = {-20.0f, -50.0f, -50.0f, 0.0f, -59.0f, -59.0f, 13.0f, -30.0f, -31.0f, -60.0f, -45.0f};
+    for (const float level : levels) {
+        fakeNow += 120;
+        meter.setLevel(level);
+        QCoreApplication::processEvents();
+        QVERIFY2(shown.shown() == shown.repainted(), qPrintable(QStringLiteral("after level %1").arg(level)));
+    }
+    QVERIFY(meter.isClipped());
+    QVERIFY(meter.peakLevel() > -45.0f);
+    shown.shown().save(artifactPath(QStringLiteral("LevelMeter-peak-and-clip-strips.png")));
 }
 
 void tst_LevelMeter::properties()

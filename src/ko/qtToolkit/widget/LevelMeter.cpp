@@ -1,8 +1,13 @@
 #include <ko/qtToolkit/widget/LevelMeter.h>
 
+#include "LevelMeter_p.h"
+
+#include <ko/qtToolkit/common/EventPosition_p.h>
 #include <ko/qtToolkit/common/Numeric_p.h>
 
+#include <QElapsedTimer>
 #include <QLinearGradient>
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QSignalBlocker>
@@ -19,9 +24,20 @@ public:
     explicit LevelMeterPrivate(LevelMeter *meter);
 
     QRect inner() const;
+    LevelMapping mapping() const;
     int litLength(int value) const;
+    int litLengthOf(float level) const;
+    void updateBetween(int shorter, int longer);
+    void showLevel();
     void valueChanged(int previous, int current);
     void updateOpaque();
+    void followPeak(qint64 now);
+    void holdPeakAt(float level, qint64 now);
+    QRect peakLine() const;
+    QRect clipCap() const;
+    float effectiveClipLevel() const;
+    void setClipped(bool clipped);
+    const QColor &zoneColor(float level) const;
 
     LevelMeter *const q;
     // The gradient is kept as a brush so that painting allocates nothing.
@@ -38,6 +54,24 @@ public:
     float mediumThresholdLevel = -20.0f;
     float highThresholdLevel = 10.0f;
     bool muted = false;
+
+    bool peakHoldEnabled = false;
+    int peakHoldTime = 1500;
+    float peakDecayRate = 20.0f;
+    // The held peak as it was when the last level arrived, at peakTime; it is held from
+    // peakHeldSince for peakHoldTime, then falls (all in milliseconds of the meters' clock).
+    float peak = -60.0f;
+    qint64 peakTime = 0;
+    qint64 peakHeldSince = 0;
+
+    bool clipLatchEnabled = false;
+    // Until set, the clip level is the maximum level, whatever that becomes.
+    bool clipLevelSet = false;
+    float clipLevel = 15.0f;
+    bool clipped = false;
+    // A press on the meter waits for its release to reset the latch.
+    bool clipPressed = false;
+    LevelMeterNotifier *notifier = nullptr;
 
     // The value whose lit length the screen shows, or will show once the updates asked for are
     // painted.
@@ -62,6 +96,22 @@ void fillOutline(QPainter &painter, const QRect &rect, const QColor &color)
         painter.fillRect(rect.right(), rect.top() + 1, 1, rect.height() - 2, color);
     }
 }
+
+qint64 monotonicMilliseconds()
+{
+    static const QElapsedTimer timer = [] {
+        QElapsedTimer started;
+        started.start();
+        return started;
+    }();
+    return timer.elapsed();
+}
+
+LevelMeterClock meterClock = monotonicMilliseconds;
+
+// The pixels of the clip cap along the meter: the latch shows as a red cap at the top end.
+constexpr int clipCapLength = 4;
+const QColor clipCapColor{0xff0000};
 
 // Level ranges are arguments: one that is not finite is refused, as the mapping onto the bar
 // would give NaN.
@@ -140,15 +190,83 @@ QRect LevelMeterPrivate::inner() const
     return q->rect().adjusted(1, 1, -1, -1);
 }
 
+int LevelMapping::value(float level) const
+{
+    const auto vmin = static_cast<float>(minimumValue);
+    const auto vmax = static_cast<float>(maximumValue);
+    float mapped = (vmax - vmin) * (level - minimumLevel) / (maximumLevel - minimumLevel) + vmin;
+    // A level range near the limits of float overflows in the product, which double holds.
+    if (std::isinf(mapped)) {
+        mapped = float((double(vmax) - vmin) * (double(level) - minimumLevel) / (double(maximumLevel) - minimumLevel)
+                       + vmin);
+    }
+    const int value = common::truncatedToInt(mapped);
+    // A level inside the level range maps inside the bar's range; single precision can round a
+    // bar range near the int limits past its ends, where QProgressBar would ignore the value.
+    if (level >= minimumLevel && level <= maximumLevel)
+        return std::clamp(value, minimumValue, maximumValue);
+    return value;
+}
+
+float LevelMapping::fraction(int value) const
+{
+    const auto vmin = static_cast<float>(minimumValue);
+    const auto vmax = static_cast<float>(maximumValue);
+    return (static_cast<float>(value) - vmin) / (vmax - vmin);
+}
+
+int LevelMapping::pixels(int value, int extent) const
+{
+    return common::truncatedToInt(static_cast<float>(extent) * fraction(value));
+}
+
+int LevelMapping::litLength(int value, int extent) const
+{
+    return std::clamp(pixels(value, extent), 0, std::max(extent - 2, 0));
+}
+
+LevelMeterClock setLevelMeterClock(LevelMeterClock clock)
+{
+    const LevelMeterClock previous = meterClock;
+    meterClock = clock != nullptr ? clock : monotonicMilliseconds;
+    return previous;
+}
+
+LevelMapping LevelMeterPrivate::mapping() const
+{
+    return {minimumLevel, maximumLevel, q->minimum(), q->maximum()};
+}
+
 // The lit length of \a value as painted: measured on the whole widget, limited to the inner
 // rectangle.
 int LevelMeterPrivate::litLength(int value) const
 {
-    const QRect inside = inner();
-    if (inside.isEmpty())
+    if (inner().isEmpty())
         return 0;
-    const int extent = q->orientation() == Qt::Vertical ? inside.height() : inside.width();
-    return std::clamp(q->mapValueToPixels(value), 0, extent);
+    return mapping().litLength(value, q->orientation() == Qt::Vertical ? q->height() : q->width());
+}
+
+int LevelMeterPrivate::litLengthOf(float level) const
+{
+    return litLength(mapping().value(q->clampLevel(level)));
+}
+
+// Asks for a repaint of the inside between two lit lengths, widened to the window's grid.
+void LevelMeterPrivate::updateBetween(int shorter, int longer)
+{
+    const QRect inside = inner();
+    const QPoint origin = q->mapTo(q->window(), QPoint());
+    if (q->orientation() == Qt::Vertical) {
+        int top = inside.bottom() + 1 - longer;
+        int bottom = inside.bottom() - shorter;
+        widenToGrid(top, bottom, origin.y(), inside.top(), inside.bottom());
+        q->update(QRect(QPoint(inside.left(), top), QPoint(inside.right(), bottom)));
+    } else {
+        int left = inside.left() + shorter;
+        int right = inside.left() + longer - 1;
+        widenToGrid(left, right, origin.x(), inside.left(), inside.right());
+        q->update(QRect(QPoint(left, inside.top()), QPoint(right, inside.bottom())));
+    }
 }
 
 // Asks for a repaint of what changed between the lit lengths of two values: the strip between
@@ -162,25 +280,103 @@ void LevelMeterPrivate::valueChanged(int previous, int current)
     } else {
         const int from = litLength(previous);
         const int to = litLength(current);
-        if (from != to) {
-            const QRect inside = inner();
-            const int shorter = std::min(from, to);
-            const int longer = std::max(from, to);
-            const QPoint origin = q->mapTo(q->window(), QPoint());
-            if (q->orientation() == Qt::Vertical) {
-                int top = inside.bottom() + 1 - longer;
-                int bottom = inside.bottom() - shorter;
-                widenToGrid(top, bottom, origin.y(), inside.top(), inside.bottom());
-                q->update(QRect(QPoint(inside.left(), top), QPoint(inside.right(), bottom)));
-            } else {
-                int left = inside.left() + shorter;
-                int right = inside.left() + longer - 1;
-                widenToGrid(left, right, origin.x(), inside.left(), inside.right());
-                q->update(QRect(QPoint(left, inside.top()), QPoint(right, inside.bottom())));
-            }
-        }
+        if (from != to)
+            updateBetween(std::min(from, to), std::max(from, to));
     }
     shownValue = current;
+}
+
+// Sets the progress bar's value for the level.
+void LevelMeterPrivate::showLevel()
+{
+    const int value = mapping().value(level);
+    const int previous = q->value();
+    if (value == previous)
+        return;
+    // valueChanged() is held back with the repaint and emitted once updates work again, so that
+    // what a receiver asks to repaint is painted.
+    const bool signalsWereBlocked = q->signalsBlocked();
+    {
+        const QSignalBlocker blocker(q);
+        const RepaintHeldBack heldBack(q);
+        q->setValue(value);
+    }
+    const int current = q->value();
+    if (current == previous)
+        return;
+    valueChanged(previous, current);
+    if (!signalsWereBlocked)
+        Q_EMIT q->valueChanged(current);
+}
+
+// Lets the held peak fall for the time since the last level, then raises it to the level when
+// that reached it, which holds it anew. The line is repainted where it moved.
+void LevelMeterPrivate::followPeak(qint64 now)
+{
+    const int before = litLengthOf(peak);
+    const qint64 heldUntil = peakHeldSince + peakHoldTime;
+    if (now > heldUntil) {
+        const qint64 fallingSince = std::max(peakTime, heldUntil);
+        if (now > fallingSince)
+            peak -= peakDecayRate * static_cast<float>(now - fallingSince) / 1000.0f;
+    }
+    peakTime = now;
+    if (!(peak > level))
+        holdPeakAt(level, now);
+    const int after = litLengthOf(peak);
+    if (after != before)
+        updateBetween(std::max(std::min(before, after) - 2, 0), std::max(before, after));
+}
+
+void LevelMeterPrivate::holdPeakAt(float level, qint64 now)
+{
+    peak = level;
+    peakTime = now;
+    peakHeldSince = now;
+}
+
+// The peak line: the last two lit pixels of a bar lit up to the peak.
+QRect LevelMeterPrivate::peakLine() const
+{
+    const int length = litLengthOf(peak);
+    if (length == 0)
+        return {};
+    const QRect inside = inner();
+    const int thickness = std::min(length, 2);
+    if (q->orientation() == Qt::Vertical)
+        return {inside.left(), inside.bottom() + 1 - length, inside.width(), thickness};
+    return {inside.left() + length - thickness, inside.top(), thickness, inside.height()};
+}
+
+QRect LevelMeterPrivate::clipCap() const
+{
+    const QRect inside = inner();
+    if (q->orientation() == Qt::Vertical)
+        return {inside.left(), inside.top(), inside.width(), std::min(clipCapLength, inside.height())};
+    const int length = std::min(clipCapLength, inside.width());
+    return {inside.right() + 1 - length, inside.top(), length, inside.height()};
+}
+
+const QColor &LevelMeterPrivate::zoneColor(float level) const
+{
+    if (level >= highThresholdLevel)
+        return highColor;
+    return level > mediumThresholdLevel ? mediumColor : lowColor;
+}
+
+float LevelMeterPrivate::effectiveClipLevel() const
+{
+    return clipLevelSet ? clipLevel : maximumLevel;
+}
+
+void LevelMeterPrivate::setClipped(bool latched)
+{
+    if (latched == clipped)
+        return;
+    clipped = latched;
+    q->update(clipCap());
+    if (notifier != nullptr)
+        Q_EMIT notifier->clippedChanged(clipped);
 }
 
 // A meter whose gradient and background are opaque covers every pixel it has with opaque paint:
@@ -233,24 +429,12 @@ bool LevelMeter::isMuted() const
 void LevelMeter::setLevel(float level)
 {
     d->level = clampLevel(level);
-    const int value = mapLevelToValue(d->level);
-    const int previous = this->value();
-    if (value == previous)
-        return;
-    // valueChanged() is held back with the repaint and emitted once updates work again, so that
-    // what a receiver asks to repaint is painted.
-    const bool signalsWereBlocked = signalsBlocked();
-    {
-        const QSignalBlocker blocker(this);
-        const RepaintHeldBack heldBack(this);
-        setValue(value);
-    }
-    const int current = this->value();
-    if (current == previous)
-        return;
-    d->valueChanged(previous, current);
-    if (!signalsWereBlocked)
-        Q_EMIT valueChanged(current);
+    if (d->peakHoldEnabled)
+        d->followPeak(meterClock());
+    d->showLevel();
+    // The level as given, not as clamped: a clip level above the maximum still catches it.
+    if (d->clipLatchEnabled && level >= d->effectiveClipLevel())
+        d->setClipped(true);
 }
 
 void LevelMeter::setLevelRange(float minimum, float maximum)
@@ -306,6 +490,106 @@ void LevelMeter::setMuted(bool muted)
     update();
 }
 
+bool LevelMeter::isPeakHoldEnabled() const
+{
+    return d->peakHoldEnabled;
+}
+
+void LevelMeter::setPeakHoldEnabled(bool enabled)
+{
+    if (enabled == d->peakHoldEnabled)
+        return;
+    d->peakHoldEnabled = enabled;
+    if (enabled)
+        d->holdPeakAt(d->level, meterClock());
+    update();
+}
+
+float LevelMeter::peakLevel() const
+{
+    return d->peakHoldEnabled ? d->peak : d->level;
+}
+
+int LevelMeter::peakHoldTime() const
+{
+    return d->peakHoldTime;
+}
+
+void LevelMeter::setPeakHoldTime(int milliseconds)
+{
+    d->peakHoldTime = std::max(milliseconds, 0);
+}
+
+float LevelMeter::peakDecayRate() const
+{
+    return d->peakDecayRate;
+}
+
+void LevelMeter::setPeakDecayRate(float decibelsPerSecond)
+{
+    if (!(decibelsPerSecond >= 0.0f)) {
+        qWarning("LevelMeter::setPeakDecayRate: ignoring a rate that is negative or not a number");
+        return;
+    }
+    d->peakDecayRate = decibelsPerSecond;
+}
+
+void LevelMeter::resetPeak()
+{
+    if (!d->peakHoldEnabled)
+        return;
+    const int before = d->litLengthOf(d->peak);
+    d->holdPeakAt(d->level, meterClock());
+    const int after = d->litLengthOf(d->peak);
+    if (after != before)
+        d->updateBetween(std::max(std::min(before, after) - 2, 0), std::max(before, after));
+}
+
+bool LevelMeter::isClipLatchEnabled() const
+{
+    return d->clipLatchEnabled;
+}
+
+void LevelMeter::setClipLatchEnabled(bool enabled)
+{
+    if (enabled == d->clipLatchEnabled)
+        return;
+    d->clipLatchEnabled = enabled;
+    d->clipPressed = false;
+    if (!enabled)
+        d->setClipped(false);
+}
+
+float LevelMeter::clipLevel() const
+{
+    return d->effectiveClipLevel();
+}
+
+void LevelMeter::setClipLevel(float level)
+{
+    if (!isFiniteLevel("setClipLevel", level))
+        return;
+    d->clipLevel = level;
+    d->clipLevelSet = true;
+}
+
+bool LevelMeter::isClipped() const
+{
+    return d->clipped;
+}
+
+void LevelMeter::resetClip()
+{
+    d->setClipped(false);
+}
+
+LevelMeterNotifier *LevelMeter::notifier() const
+{
+    if (d->notifier == nullptr)
+        d->notifier = new LevelMeterNotifier(const_cast<LevelMeter *>(this));
+    return d->notifier;
+}
+
 void LevelMeter::setBackgroundColor(const QColor &color)
 {
     if (color == d->backgroundColor)
@@ -343,21 +627,7 @@ float LevelMeter::clampLevel(float level) const
 
 int LevelMeter::mapLevelToValue(float level) const
 {
-    const auto vmin = static_cast<float>(minimum());
-    const auto vmax = static_cast<float>(maximum());
-    float mapped = (vmax - vmin) * (level - d->minimumLevel) / (d->maximumLevel - d->minimumLevel) + vmin;
-    // A level range near the limits of float overflows in the product, which double holds.
-    if (std::isinf(mapped)) {
-        mapped = float((double(vmax) - vmin) * (double(level) - d->minimumLevel)
-                           / (double(d->maximumLevel) - d->minimumLevel)
-                       + vmin);
-    }
-    const int value = common::truncatedToInt(mapped);
-    // A level inside the level range maps inside the bar's range; single precision can round a
-    // bar range near the int limits past its ends, where QProgressBar would ignore the value.
-    if (level >= d->minimumLevel && level <= d->maximumLevel)
-        return std::clamp(value, minimum(), maximum());
-    return value;
+    return d->mapping().value(level);
 }
 
 float LevelMeter::mapLevelToPercentage(float level) const
@@ -367,15 +637,12 @@ float LevelMeter::mapLevelToPercentage(float level) const
 
 float LevelMeter::mapValueToPercentage(int value) const
 {
-    const auto vmin = static_cast<float>(minimum());
-    const auto vmax = static_cast<float>(maximum());
-    return (static_cast<float>(value) - vmin) / (vmax - vmin);
+    return d->mapping().fraction(value);
 }
 
 int LevelMeter::mapValueToPixels(int value) const
 {
-    const int extent = orientation() == Qt::Horizontal ? width() : height();
-    return common::truncatedToInt(static_cast<float>(extent) * mapValueToPercentage(value));
+    return d->mapping().pixels(value, orientation() == Qt::Horizontal ? width() : height());
 }
 
 void LevelMeter::updateGradient()
@@ -434,6 +701,16 @@ void LevelMeter::paintEvent(QPaintEvent *event)
         const QRect unlitArea = unlit & area;
         if (!unlitArea.isEmpty())
             painter.fillRect(unlitArea, d->backgroundColor);
+        if (d->peakHoldEnabled) {
+            const QRect line = d->peakLine() & area;
+            if (!line.isEmpty())
+                painter.fillRect(line, d->zoneColor(d->peak));
+        }
+        if (d->clipped) {
+            const QRect cap = d->clipCap() & area;
+            if (!cap.isEmpty())
+                painter.fillRect(cap, clipCapColor);
+        }
     }
     if (washedOut)
         painter.fillRect(whole & area, QColor(255, 255, 255, 128));
@@ -444,9 +721,39 @@ void LevelMeter::paintEvent(QPaintEvent *event)
         fillOutline(painter, inner, frameColor);
 }
 
+void LevelMeter::mousePressEvent(QMouseEvent *event)
+{
+    if (!d->clipLatchEnabled || event->button() != Qt::LeftButton) {
+        QProgressBar::mousePressEvent(event);
+        return;
+    }
+    d->clipPressed = true;
+    event->accept();
+}
+
+// A tap, a press and a release on the meter, resets the clip latch.
+void LevelMeter::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (!d->clipPressed || event->button() != Qt::LeftButton) {
+        QProgressBar::mouseReleaseEvent(event);
+        return;
+    }
+    d->clipPressed = false;
+    if (rect().contains(common::localPosition(*event).toPoint()))
+        resetClip();
+    event->accept();
+}
+
 void LevelMeter::resizeEvent(QResizeEvent * /*event*/)
 {
     updateGradient();
 }
+
+LevelMeterNotifier::LevelMeterNotifier(QObject *parent)
+    : QObject(parent)
+{
+}
+
+LevelMeterNotifier::~LevelMeterNotifier() = default;
 
 } // namespace ko::qtToolkit::widget

@@ -11,6 +11,7 @@
 
 namespace ko::qtToolkit::widget {
 
+class LevelMeterNotifier;
 class LevelMeterPrivate;
 
 /**
@@ -31,6 +32,24 @@ class LevelMeterPrivate;
  * The colour gradient is rebuilt on resize, on a threshold change and on a change of the low,
  * medium or high colour. A change of the level range alone leaves the zones where the old range
  * put them until then.
+ *
+ * Two additions, both off by default, serve a wall of meters on a console:
+ * - Peak hold (setPeakHoldEnabled()) keeps the highest recent level as a 2-pixel line across the
+ *   meter, in the colour of the zone the peak lies in. The line holds for peakHoldTime(), then
+ *   falls at peakDecayRate() but never below the level. The meter has no timer: time is read from
+ *   a monotonic clock as levels arrive, so the line moves with the levels it is fed.
+ * - The clip latch (setClipLatchEnabled()) latches once a level reaches clipLevel() and shows a
+ *   red cap at the meter's top (at its right end when horizontal) until resetClip() or a tap on
+ *   the meter. Changes of the latch are signalled by notifier().
+ *
+ * \code
+ * auto *meter = new LevelMeter(panel);
+ * meter->setPeakHoldEnabled(true);
+ * meter->setClipLatchEnabled(true);
+ * QObject::connect(meter->notifier(), &LevelMeterNotifier::clippedChanged, clipLamp, &QWidget::setVisible);
+ * // 30 to 60 times a second:
+ * meter->setLevel(levelInDecibels);
+ * \endcode
  */
 class KO_QTTOOLKIT_EXPORT LevelMeter : public QProgressBar
 {
@@ -139,12 +158,102 @@ public:
     /// \brief Rebuilds the colour gradient from the thresholds, the colours and the size.
     void updateGradient();
 
+    /// \brief Whether the meter holds and shows its peak; off by default.
+    bool isPeakHoldEnabled() const;
+
+    /**
+     * \brief Switches peak hold on or off. Switched on, the peak starts at the current level
+     *        and is held from then.
+     */
+    void setPeakHoldEnabled(bool enabled);
+
+    /**
+     * \brief The held peak as it was when the last level arrived, in the level range; the
+     *        current level while peak hold is off.
+     *
+     * A level above the peak (or at it) raises the peak at once and holds it anew. After
+     * peakHoldTime() the peak falls at peakDecayRate(), never below the level.
+     */
+    float peakLevel() const;
+
+    /// \brief How long a peak is held before it falls, in milliseconds; 1500 by default.
+    int peakHoldTime() const;
+
+    /// \brief Sets how long a peak is held, in milliseconds; a negative time counts as 0.
+    void setPeakHoldTime(int milliseconds);
+
+    /// \brief How fast a peak falls after its hold time, in decibels (level units) per second;
+    ///        20 by default.
+    float peakDecayRate() const;
+
+    /**
+     * \brief Sets how fast a peak falls, in decibels per second. 0 keeps the peak until
+     *        resetPeak(); a negative rate or NaN is refused with a warning.
+     */
+    void setPeakDecayRate(float decibelsPerSecond);
+
+    /// \brief The peak becomes the current level, held from now. Nothing while peak hold is off.
+    void resetPeak();
+
+    /// \brief Whether a level at or above clipLevel() latches the clip cap; off by default.
+    bool isClipLatchEnabled() const;
+
+    /// \brief Switches the clip latch on or off; switched off, the latch is released.
+    void setClipLatchEnabled(bool enabled);
+
+    /**
+     * \brief The level at and above which the latch engages: the maximum level, following it,
+     *        until setClipLevel() is called.
+     */
+    float clipLevel() const;
+
+    /**
+     * \brief Sets the clip level. It is compared with each level as given to setLevel(), before
+     *        clamping, so a clip level above the maximum level still catches levels above it.
+     *        A level that is not finite is refused with a warning.
+     */
+    void setClipLevel(float level);
+
+    /// \brief Whether the clip latch has engaged; always false while the latch is off.
+    bool isClipped() const;
+
+    /// \brief Releases the clip latch. A tap on the meter (a press and a release on it) does the same.
+    void resetClip();
+
+    /**
+     * \brief The object that signals changes of the clip latch, made on first use and owned by
+     *        the meter. The meter itself declares no signals of its own beyond QProgressBar's.
+     */
+    LevelMeterNotifier *notifier() const;
+
 protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
     std::unique_ptr<LevelMeterPrivate> const d;
+};
+
+/**
+ * \brief Signals the changes of a LevelMeter's clip latch; see LevelMeter::notifier().
+ */
+class KO_QTTOOLKIT_EXPORT LevelMeterNotifier : public QObject
+{
+    Q_OBJECT
+
+public:
+    ~LevelMeterNotifier() override;
+
+Q_SIGNALS:
+    /// \brief The latch engaged (\a clipped true) or was released; emitted only on change.
+    void clippedChanged(bool clipped);
+
+private:
+    friend class LevelMeterPrivate;
+    friend class LevelMeter;
+    explicit LevelMeterNotifier(QObject *parent);
 };
 
 } // namespace ko::qtToolkit::widget
