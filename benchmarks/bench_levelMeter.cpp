@@ -8,6 +8,7 @@
 //   bench_levelMeter [--benchmark_min_time=2]
 
 #include <ko/qtToolkit/widget/LevelMeter.h>
+#include <ko/qtToolkit/widget/LevelMeter_p.h>
 
 #include "FrameTimeReporter.h"
 
@@ -158,6 +159,38 @@ void BM_LevelMeterWall(benchmark::State &state)
 }
 BENCHMARK(BM_LevelMeterWall)->Unit(benchmark::kMicrosecond);
 
+// Levels set so far; the meters' clock below makes 50 frames of all meters a second of them.
+qint64 levelsSet = 0;
+
+qint64 fiftyFramesASecond()
+{
+    return levelsSet * 20 / meterCount;
+}
+
+// The same wall with every meter holding its peak and latching clips, fed 50 times a second by
+// the clock: levels reach the top, so latches engage, and peaks hold and fall as in use.
+void BM_LevelMeterWallPeakAndClip(benchmark::State &state)
+{
+    using namespace ko::qtToolkit::widget;
+    const LevelMeterClock previous = setLevelMeterClock(fiftyFramesASecond);
+    runWall<LevelMeter>(
+        state,
+        [](QWidget *parent) {
+            auto *meter = new LevelMeter(parent);
+            meter->setOrientation(Qt::Vertical);
+            meter->setPeakHoldEnabled(true);
+            meter->setClipLatchEnabled(true);
+            meter->setClipLevel(14.0f);
+            return meter;
+        },
+        [](LevelMeter *meter, float level) {
+            ++levelsSet;
+            meter->setLevel(level);
+        });
+    setLevelMeterClock(previous);
+}
+BENCHMARK(BM_LevelMeterWallPeakAndClip)->Unit(benchmark::kMicrosecond);
+
 void BM_ProgressBarWall(benchmark::State &state)
 {
     runWall<QProgressBar>(
@@ -205,12 +238,15 @@ void printComparison(const FrameTimeReporter &reporter)
     const double progressBar = microsecondsPerMeter(reporter, "BM_ProgressBarWall");
     std::printf("\nMicroseconds per meter per frame (64 meters of 20x200 in a window, level change and the\n"
                 "backing store's paint of what changed):\n");
+    const double withPeakAndClip = microsecondsPerMeter(reporter, "BM_LevelMeterWallPeakAndClip");
     std::printf("  LevelMeter            %8.2f\n", ours);
+    std::printf("  LevelMeter, peak hold and clip latch on %8.2f\n", withPeakAndClip);
     std::printf("  QProgressBar (Fusion) %8.2f\n", progressBar);
 #ifdef KO_HAVE_QWT
     const double thermo = microsecondsPerMeter(reporter, "BM_QwtThermoWall");
     std::printf("  QwtThermo (alarm on)  %8.2f\n", thermo);
 #endif
+    std::printf("ratio peak hold and clip latch on/off: %.3f (target <= 1.2)\n", withPeakAndClip / ours);
     std::printf("ratio ours/QProgressBar: %.3f (target <= 0.1)\n", ours / progressBar);
 #ifdef KO_HAVE_QWT
     std::printf("ratio ours/QwtThermo: %.3f (target <= 0.25)\n", ours / thermo);
