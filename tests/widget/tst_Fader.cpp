@@ -12,6 +12,7 @@
 #include <qpa/qwindowsysteminterface.h>
 
 #include <climits>
+#include <utility>
 
 using ko::qtToolkit::test::moveHeld;
 using ko::qtToolkit::test::sliderHandleRect;
@@ -79,6 +80,42 @@ QVariant noClass()
     return QVariant();
 }
 
+// A double click at \a position of \a widget as the window system delivers one: two clicks
+// within the double-click interval, which Qt turns into a press and a double click.
+void doubleClick(QWidget *widget, const QPoint &position)
+{
+    QWidget *window = widget->window();
+    QTest::mouseDClick(window->windowHandle(), Qt::LeftButton, {}, widget->mapTo(window, position));
+}
+
+// A double tap at \a position of \a widget on a touch screen: two touches within the
+// double-click interval. The fader takes no touch events, so Qt synthesizes the mouse events.
+void doubleTap(QWidget *widget, const QPoint &position)
+{
+    static auto *const device = QTest::createTouchDevice();
+    for (int tap = 0; tap < 2; ++tap) {
+        QTest::touchEvent(widget, device).press(0, position, widget);
+        QTest::touchEvent(widget, device).release(0, position, widget);
+    }
+}
+
+// The pixels of \a widget, in one format whether it is shown or not.
+QImage pixels(QWidget &widget)
+{
+    return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+// The fader as it looks at \a value, without any drag: the reference for rendered pixels.
+QImage lookAt(Fader &fader, int value)
+{
+    Fader reference(fader.orientation());
+    reference.setRange(fader.minimum(), fader.maximum());
+    reference.setValue(value);
+    reference.setSingleStep(fader.singleStep());
+    reference.setFixedSize(fader.size());
+    return pixels(reference);
+}
+
 } // namespace
 
 class tst_Fader : public QObject
@@ -106,6 +143,14 @@ private Q_SLOTS:
     void disabledFaderIsInert();
     void modeChangeRepaintsAtOnce();
     void modeLookFollowsStyleSheet();
+    void additionsAreOffByDefault();
+    void defaultValue_data();
+    void defaultValue();
+    void doubleTapResetsToDefault_data();
+    void doubleTapResetsToDefault();
+    void doubleTapBesideTheHandleDoesNothing_data();
+    void doubleTapBesideTheHandleDoesNothing();
+    void dragAfterResetStartsAtDefault();
 };
 
 void tst_Fader::defaults()
@@ -633,6 +678,217 @@ void tst_Fader::modeLookFollowsStyleSheet()
     QCOMPARE(handleColor(), coarseHandle);
     QTest::mouseRelease(fader, Qt::LeftButton, {}, grab + QPoint(12, 0));
     QCOMPARE(handleColor(), idle);
+}
+
+void tst_Fader::additionsAreOffByDefault()
+{
+    Fader fader;
+    QCOMPARE(fader.isResetOnDoubleTapEnabled(), false);
+    // The default follows the minimum until one is set.
+    QCOMPARE(fader.defaultValue(), fader.minimum());
+    fader.setRange(-40, 60);
+    QCOMPARE(fader.defaultValue(), -40);
+    fader.setMinimum(7);
+    QCOMPARE(fader.defaultValue(), 7);
+
+    const QMetaObject &meta = Fader::staticMetaObject;
+    for (const char *name : {"defaultValue", "resetOnDoubleTapEnabled"}) {
+        const int index = meta.indexOfProperty(name);
+        QVERIFY2(index >= 0, name);
+        QVERIFY(meta.property(index).isReadable());
+        QVERIFY(meta.property(index).isWritable());
+    }
+    QCOMPARE(fader.property("defaultValue"), QVariant(7));
+    QCOMPARE(fader.property("resetOnDoubleTapEnabled"), QVariant(false));
+
+    QVERIFY(fader.setProperty("defaultValue", 20));
+    QCOMPARE(fader.defaultValue(), 20);
+    QVERIFY(fader.setProperty("resetOnDoubleTapEnabled", true));
+    QVERIFY(fader.isResetOnDoubleTapEnabled());
+    fader.setResetOnDoubleTapEnabled(false);
+    QVERIFY(!fader.isResetOnDoubleTapEnabled());
+}
+
+void tst_Fader::defaultValue_data()
+{
+    QTest::addColumn<bool>("explicitDefault");
+    QTest::addColumn<int>("setTo");
+    QTest::addColumn<int>("expected");
+    QTest::addColumn<int>("newMinimum");
+    QTest::addColumn<int>("newMaximum");
+    QTest::addColumn<int>("expectedAfterRange");
+
+    QTest::newRow("follows the minimum") << false << 0 << 0 << -20 << 50 << -20;
+    QTest::newRow("explicit default stays when the range changes") << true << 30 << 30 << -20 << 50 << 30;
+    QTest::newRow("explicit default at the minimum stays put") << true << 0 << 0 << -20 << 50 << 0;
+    QTest::newRow("kept outside a later range") << true << 80 << 80 << 0 << 50 << 80;
+    QTest::newRow("kept beyond the range") << true << 500 << 500 << 0 << 1000 << 500;
+    QTest::newRow("kept below the range") << true << -500 << -500 << -10 << 10 << -500;
+    QTest::newRow("int maximum") << true << INT_MAX << INT_MAX << 0 << 10 << INT_MAX;
+    QTest::newRow("int minimum") << true << INT_MIN << INT_MIN << 0 << 10 << INT_MIN;
+}
+
+void tst_Fader::defaultValue()
+{
+    QFETCH(bool, explicitDefault);
+    QFETCH(int, setTo);
+    QFETCH(int, expected);
+    QFETCH(int, newMinimum);
+    QFETCH(int, newMaximum);
+    QFETCH(int, expectedAfterRange);
+
+    Fader fader;
+    fader.setRange(0, 100);
+    fader.setValue(50);
+    QSignalSpy values(&fader, &QSlider::valueChanged);
+    if (explicitDefault)
+        fader.setDefaultValue(setTo);
+    QCOMPARE(fader.defaultValue(), expected);
+    // Setting the default leaves the value alone.
+    QCOMPARE(fader.value(), 50);
+    QCOMPARE(values.count(), 0);
+
+    fader.setRange(newMinimum, newMaximum);
+    QCOMPARE(fader.defaultValue(), expectedAfterRange);
+}
+
+void tst_Fader::doubleTapResetsToDefault_data()
+{
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<bool>("explicitDefault");
+    QTest::addColumn<int>("defaultValue");
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("expected");
+
+    const QString click = QStringLiteral("double click");
+    const QString tap = QStringLiteral("double tap");
+    const QString event = QStringLiteral("double click event");
+
+    QTest::newRow("double click resets to the default") << click << true << true << 30 << 50 << 30;
+    QTest::newRow("double tap resets to the default") << tap << true << true << 30 << 50 << 30;
+    QTest::newRow("double click event alone resets") << event << true << true << 30 << 50 << 30;
+    QTest::newRow("default following the minimum") << click << true << false << 0 << 50 << -10;
+    QTest::newRow("double tap to the minimum") << tap << true << false << 0 << 50 << -10;
+    QTest::newRow("default above the range is clamped") << click << true << true << 500 << 50 << 100;
+    QTest::newRow("default below the range is clamped") << tap << true << true << -500 << 50 << -10;
+    QTest::newRow("already at the default") << click << true << true << 30 << 30 << 30;
+    QTest::newRow("switched off, a double click changes nothing") << click << false << true << 30 << 50 << 50;
+    QTest::newRow("switched off, a double tap changes nothing") << tap << false << true << 30 << 50 << 50;
+    QTest::newRow("switched off, a double click event changes nothing") << event << false << true << 30 << 50 << 50;
+}
+
+void tst_Fader::doubleTapResetsToDefault()
+{
+    QFETCH(QString, input);
+    QFETCH(bool, enabled);
+    QFETCH(bool, explicitDefault);
+    QFETCH(int, defaultValue);
+    QFETCH(int, start);
+    QFETCH(int, expected);
+
+    Scene scene(Qt::Vertical, -10, 100, start);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    scene.fader->setResetOnDoubleTapEnabled(enabled);
+    if (explicitDefault)
+        scene.fader->setDefaultValue(defaultValue);
+    QSignalSpy values(scene.fader, &QSlider::valueChanged);
+    QSignalSpy sliding(scene.fader, &Fader::slidingChanged);
+    const QPoint center = sliderHandleRect(*scene.fader).center();
+
+    if (input == QLatin1String("double click")) {
+        doubleClick(scene.fader, center);
+    } else if (input == QLatin1String("double tap")) {
+        doubleTap(scene.fader, center);
+    } else {
+        sendPress(scene.fader, QEvent::MouseButtonDblClick, center, Qt::LeftButton);
+        // The handle is held as after any press on it.
+        QVERIFY(scene.fader->isSliding());
+        QCOMPARE(sliding.count(), 1);
+        QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, center);
+    }
+
+    QCOMPARE(scene.fader->value(), expected);
+    QCOMPARE(values.count(), expected == start ? 0 : 1);
+    if (!values.isEmpty())
+        QCOMPARE(values.at(0).at(0).toInt(), expected);
+    QVERIFY(!scene.fader->isSliding());
+    QVERIFY(sliding.count() >= 2);
+    QCOMPARE(sliding.first().at(0).toBool(), true);
+    QCOMPARE(sliding.last().at(0).toBool(), false);
+    QVERIFY(scene.parent.presses.isEmpty());
+    QCOMPARE(scene.fader->property("class"), noClass());
+    // The default is not changed by applying it.
+    QCOMPARE(scene.fader->defaultValue(), explicitDefault ? defaultValue : -10);
+    QCOMPARE(pixels(*scene.fader), lookAt(*scene.fader, expected));
+}
+
+void tst_Fader::doubleTapBesideTheHandleDoesNothing_data()
+{
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<int>("offset"); // from the handle's centre, along the fader
+
+    QTest::newRow("double click below the handle") << QStringLiteral("double click") << 40;
+    QTest::newRow("double click above the handle") << QStringLiteral("double click") << -40;
+    QTest::newRow("double tap below the handle") << QStringLiteral("double tap") << 40;
+    QTest::newRow("double tap above the handle") << QStringLiteral("double tap") << -40;
+}
+
+void tst_Fader::doubleTapBesideTheHandleDoesNothing()
+{
+    QFETCH(QString, input);
+    QFETCH(int, offset);
+
+    Scene scene(Qt::Vertical);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    scene.fader->setResetOnDoubleTapEnabled(true);
+    scene.fader->setDefaultValue(20);
+    QSignalSpy values(scene.fader, &QSlider::valueChanged);
+    QSignalSpy sliding(scene.fader, &Fader::slidingChanged);
+    const QImage before = pixels(*scene.fader);
+    const QPoint point = sliderHandleRect(*scene.fader).center() + QPoint(0, offset);
+    QVERIFY(scene.fader->rect().contains(point));
+    QVERIFY(!sliderHandleRect(*scene.fader).contains(point));
+
+    if (input == QLatin1String("double click"))
+        doubleClick(scene.fader, point);
+    else
+        doubleTap(scene.fader, point);
+
+    QCOMPARE(scene.fader->value(), 50);
+    QCOMPARE(values.count(), 0);
+    QVERIFY(!scene.fader->isSliding());
+    for (const QList<QVariant> &signal : std::as_const(sliding))
+        QCOMPARE(signal.at(0).toBool(), false);
+    // The presses went on to the parent, as any press beside the handle does.
+    QVERIFY(!scene.parent.presses.isEmpty());
+    QCOMPARE(pixels(*scene.fader), before);
+}
+
+void tst_Fader::dragAfterResetStartsAtDefault()
+{
+    Scene scene(Qt::Vertical);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    scene.fader->setResetOnDoubleTapEnabled(true);
+    scene.fader->setDefaultValue(30);
+    QSignalSpy values(scene.fader, &QSlider::valueChanged);
+    QSignalSpy sliding(scene.fader, &Fader::slidingChanged);
+    const QPoint center = sliderHandleRect(*scene.fader).center();
+
+    sendPress(scene.fader, QEvent::MouseButtonDblClick, center, Qt::LeftButton);
+    QCOMPARE(scene.fader->value(), 30);
+    QVERIFY(scene.fader->isSliding());
+    moveHeld(scene.fader, center + QPoint(0, -11));
+    QCOMPARE(scene.fader->value(), 30);
+    moveHeld(scene.fader, center + QPoint(0, -30));
+    QCOMPARE(scene.fader->value(), 33);
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, center + QPoint(0, -30));
+
+    QCOMPARE(values.count(), 2);
+    QCOMPARE(values.at(0).at(0).toInt(), 30);
+    QCOMPARE(values.at(1).at(0).toInt(), 33);
+    QCOMPARE(sliding.count(), 2);
+    QCOMPARE(scene.fader->singleStep(), 10);
 }
 
 QTEST_MAIN(tst_Fader)

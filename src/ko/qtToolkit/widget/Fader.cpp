@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <climits>
 #include <cstdlib>
+#include <optional>
 
 namespace ko::qtToolkit::widget {
 
@@ -27,6 +28,9 @@ public:
     int pressValue = 0;
     bool sliding = false;
     Mode mode = Mode::Undecided;
+    // Unset while the default follows the minimum.
+    std::optional<int> defaultValue;
+    bool resetOnDoubleTap = false;
 
 private:
     bool press(QMouseEvent *event);
@@ -89,6 +93,8 @@ bool FaderPrivate::press(QMouseEvent *event)
         event->ignore();
         return true;
     }
+    if (event->type() == QEvent::MouseButtonDblClick && resetOnDoubleTap)
+        q->setValue(q->defaultValue());
     pressPosition = position;
     pressValue = q->value();
     sliding = true;
@@ -181,6 +187,26 @@ Fader::~Fader() = default;
 bool Fader::isSliding() const
 {
     return d->sliding;
+}
+
+int Fader::defaultValue() const
+{
+    return d->defaultValue.value_or(minimum());
+}
+
+void Fader::setDefaultValue(int value)
+{
+    d->defaultValue = value;
+}
+
+bool Fader::isResetOnDoubleTapEnabled() const
+{
+    return d->resetOnDoubleTap;
+}
+
+void Fader::setResetOnDoubleTapEnabled(bool enabled)
+{
+    d->resetOnDoubleTap = enabled;
 }
 
 } // namespace ko::qtToolkit::widget

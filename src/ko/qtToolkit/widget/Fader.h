@@ -31,11 +31,16 @@ class FaderPrivate;
  *
  * The fader is 17 pixels wide whatever its orientation (also when horizontal) and takes no
  * keyboard focus. A disabled fader handles no events of its own.
+ *
+ * A double tap (or double click) on the handle can reset the fader to its default value; this is
+ * off unless switched on with setResetOnDoubleTapEnabled().
  */
 class KO_QTTOOLKIT_EXPORT Fader : public QSlider
 {
     Q_OBJECT
     Q_PROPERTY(bool isSliding READ isSliding NOTIFY slidingChanged)
+    Q_PROPERTY(int defaultValue READ defaultValue WRITE setDefaultValue)
+    Q_PROPERTY(bool resetOnDoubleTapEnabled READ isResetOnDoubleTapEnabled WRITE setResetOnDoubleTapEnabled)
 
 public:
     /**
@@ -57,6 +62,39 @@ public:
      *        release of any mouse button.
      */
     bool isSliding() const;
+
+    /**
+     * \brief The value a double tap on the handle resets the fader to, when
+     *        isResetOnDoubleTapEnabled() is true.
+     *
+     * Until setDefaultValue() is called this is minimum(), and follows the minimum when the range
+     * changes. A value set explicitly is kept as it is, also when a later range excludes it: it is
+     * clamped to the range only when it is applied, as setValue() clamps, so a range that grows
+     * back makes it reachable again.
+     */
+    int defaultValue() const;
+
+    /**
+     * \brief Sets the value a double tap on the handle resets the fader to.
+     *
+     * The value is stored as given, even outside the range (see defaultValue()); it does not
+     * change the fader's value.
+     */
+    void setDefaultValue(int value);
+
+    /// \brief Whether a double tap or double click on the handle resets the value; false by default.
+    bool isResetOnDoubleTapEnabled() const;
+
+    /**
+     * \brief Switches resetting on a double tap on or off.
+     *
+     * When on, a double tap or double click with the left button on the handle sets the value to
+     * defaultValue(), clamped to the range; valueChanged() follows as for any change of the value.
+     * The handle is then held as after any press on it, so a drag that follows goes on from the
+     * default value. A double tap beside the handle does nothing and goes on to the parent widget,
+     * as any press there does.
+     */
+    void setResetOnDoubleTapEnabled(bool enabled);
 
 Q_SIGNALS:
     /**
