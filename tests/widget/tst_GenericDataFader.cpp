@@ -9,6 +9,7 @@
 
 #include <cfloat>
 #include <climits>
+#include <cmath>
 #include <limits>
 
 using ko::qtToolkit::test::moveHeld;
@@ -83,6 +84,8 @@ private Q_SLOTS:
     void defaultDataFollowsTheDecimals();
     void defaultDataThatIsNotANumberIsRefused();
     void doubleTapResetsData();
+    void fullRangeDragSweepsTheData_data();
+    void fullRangeDragSweepsTheData();
 };
 
 void tst_GenericDataFader::defaults()
@@ -538,6 +541,49 @@ void tst_GenericDataFader::doubleTapResetsData()
                        fader->mapTo(&window, sliderHandleRect(*fader).center()));
     QCOMPARE(fader->getData(), 100.0f);
     QCOMPARE(data.count(), 0);
+}
+
+void tst_GenericDataFader::fullRangeDragSweepsTheData_data()
+{
+    QTest::addColumn<int>("across"); // 0 for fine mode
+    QTest::newRow("fine") << 0;
+    QTest::newRow("coarse") << 12;
+}
+
+// 0 to 500 with one decimal is 5000 slider units: 25000 pixels of a coarse drag by steps, the
+// length of the groove by the full range.
+void tst_GenericDataFader::fullRangeDragSweepsTheData()
+{
+    QFETCH(int, across);
+
+    QWidget window;
+    window.resize(100, 260);
+    auto *fader = new GenericDataFader(Qt::Vertical, &window);
+    fader->setMaximumData(500.0f);
+    fader->setData(0.0f);
+    fader->setDragMode(Fader::FullRangeDrag);
+    fader->setGeometry(40, 20, 17, 220);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+    QSignalSpy data(fader, &GenericDataFader::dataChanged);
+    const QPoint grab = sliderHandleRect(*fader).center();
+    const int top = fader->height();
+    QTest::mousePress(fader, Qt::LeftButton, {}, grab);
+    moveHeld(fader, across ? grab + QPoint(across, 0) : grab + QPoint(0, -11));
+    QCOMPARE(data.count(), 0);
+    moveHeld(fader, grab + QPoint(across, -top / 2));
+    const float half = fader->getData();
+    QVERIFY2(half > 200.0f && half < 300.0f, qPrintable(QString::number(double(half))));
+    if (across)
+        QCOMPARE(std::fmod(half, 50.0f), 0.0f);
+    moveHeld(fader, grab + QPoint(across, -top));
+    QTest::mouseRelease(fader, Qt::LeftButton, {}, grab + QPoint(across, -top));
+
+    QCOMPARE(fader->getData(), 500.0f);
+    QCOMPARE(data.count(), 2);
+    QCOMPARE(data.at(0).at(0).value<float>(), half);
+    QCOMPARE(data.at(1).at(0).value<float>(), 500.0f);
 }
 
 QTEST_MAIN(tst_GenericDataFader)
