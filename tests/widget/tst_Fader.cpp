@@ -11,7 +11,10 @@
 #include <QWindow>
 #include <qpa/qwindowsysteminterface.h>
 
+#include <algorithm>
 #include <climits>
+#include <cstdlib>
+#include <utility>
 
 using ko::qtToolkit::test::moveHeld;
 using ko::qtToolkit::test::sliderHandleRect;
@@ -74,9 +77,79 @@ struct Scene
     }
 };
 
+// The pixels a drag must cover before its mode is chosen.
+constexpr int modeThreshold()
+{
+    return 11;
+}
+
 QVariant noClass()
 {
     return QVariant();
+}
+
+// A double click at \a position of \a widget as the window system delivers one: two clicks
+// within the double-click interval, which Qt turns into a press and a double click.
+void doubleClick(QWidget *widget, const QPoint &position)
+{
+    QWidget *window = widget->window();
+    QTest::mouseDClick(window->windowHandle(), Qt::LeftButton, {}, widget->mapTo(window, position));
+}
+
+// A double tap at \a position of \a widget on a touch screen: two touches within the
+// double-click interval. The fader takes no touch events, so Qt synthesizes the mouse events.
+void doubleTap(QWidget *widget, const QPoint &position)
+{
+    static auto *const device = QTest::createTouchDevice();
+    for (int tap = 0; tap < 2; ++tap) {
+        QTest::touchEvent(widget, device).press(0, position, widget);
+        QTest::touchEvent(widget, device).release(0, position, widget);
+    }
+}
+
+// The pixels a handle can travel, measured as the fader measures them.
+int grooveSpan(const QSlider &slider)
+{
+    struct Access : QSlider
+    {
+        using QSlider::initStyleOption;
+    };
+    QStyleOptionSlider option;
+    (slider.*(&Access::initStyleOption))(&option);
+    const QRect groove = slider.style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, &slider);
+    const QRect handle = sliderHandleRect(slider);
+    return slider.orientation() == Qt::Horizontal ? groove.width() - handle.width()
+                                                  : groove.height() - handle.height();
+}
+
+// The coordinate along the fader of \a point.
+int along(const QSlider &slider, const QPoint &point)
+{
+    return slider.orientation() == Qt::Horizontal ? point.x() : point.y();
+}
+
+// A finger position \a raised pixels from \a grab toward the maximum, after a move of
+// \a across pixels across the fader.
+QPoint raisedBy(const QSlider &slider, const QPoint &grab, int raised, int across = 0)
+{
+    return slider.orientation() == Qt::Horizontal ? grab + QPoint(raised, across) : grab + QPoint(across, -raised);
+}
+
+// The pixels of \a widget, in one format whether it is shown or not.
+QImage pixels(QWidget &widget)
+{
+    return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+// The fader as it looks at \a value, without any drag: the reference for rendered pixels.
+QImage lookAt(Fader &fader, int value)
+{
+    Fader reference(fader.orientation());
+    reference.setRange(fader.minimum(), fader.maximum());
+    reference.setValue(value);
+    reference.setSingleStep(fader.singleStep());
+    reference.setFixedSize(fader.size());
+    return pixels(reference);
 }
 
 } // namespace
@@ -106,6 +179,21 @@ private Q_SLOTS:
     void disabledFaderIsInert();
     void modeChangeRepaintsAtOnce();
     void modeLookFollowsStyleSheet();
+    void additionsAreOffByDefault();
+    void defaultValue_data();
+    void defaultValue();
+    void doubleTapResetsToDefault_data();
+    void doubleTapResetsToDefault();
+    void doubleTapBesideTheHandleDoesNothing_data();
+    void doubleTapBesideTheHandleDoesNothing();
+    void dragAfterResetStartsAtDefault();
+    void fullRangeDragSweepsTheRange_data();
+    void fullRangeDragSweepsTheRange();
+    void fullRangeDragIsRelativeToTheGrab();
+    void fullRangeCoarseSnapsToBiggerSteps_data();
+    void fullRangeCoarseSnapsToBiggerSteps();
+    void fullRangeDragKeepsTheFaderRules();
+    void dragModeSwitchesBack();
 };
 
 void tst_Fader::defaults()
@@ -633,6 +721,466 @@ void tst_Fader::modeLookFollowsStyleSheet()
     QCOMPARE(handleColor(), coarseHandle);
     QTest::mouseRelease(fader, Qt::LeftButton, {}, grab + QPoint(12, 0));
     QCOMPARE(handleColor(), idle);
+}
+
+void tst_Fader::additionsAreOffByDefault()
+{
+    Fader fader;
+    QCOMPARE(fader.isResetOnDoubleTapEnabled(), false);
+    QCOMPARE(fader.dragMode(), Fader::StepDrag);
+    // The default follows the minimum until one is set.
+    QCOMPARE(fader.defaultValue(), fader.minimum());
+    fader.setRange(-40, 60);
+    QCOMPARE(fader.defaultValue(), -40);
+    fader.setMinimum(7);
+    QCOMPARE(fader.defaultValue(), 7);
+
+    const QMetaObject &meta = Fader::staticMetaObject;
+    for (const char *name : {"defaultValue", "resetOnDoubleTapEnabled", "dragMode"}) {
+        const int index = meta.indexOfProperty(name);
+        QVERIFY2(index >= 0, name);
+        QVERIFY(meta.property(index).isReadable());
+        QVERIFY(meta.property(index).isWritable());
+    }
+    QCOMPARE(fader.property("defaultValue"), QVariant(7));
+    QCOMPARE(fader.property("resetOnDoubleTapEnabled"), QVariant(false));
+    QCOMPARE(fader.property("dragMode").toInt(), int(Fader::StepDrag));
+
+    QVERIFY(fader.setProperty("defaultValue", 20));
+    QCOMPARE(fader.defaultValue(), 20);
+    QVERIFY(fader.setProperty("resetOnDoubleTapEnabled", true));
+    QVERIFY(fader.isResetOnDoubleTapEnabled());
+    // An enumeration property takes its key names too.
+    QVERIFY(fader.setProperty("dragMode", QStringLiteral("FullRangeDrag")));
+    QCOMPARE(fader.dragMode(), Fader::FullRangeDrag);
+    fader.setResetOnDoubleTapEnabled(false);
+    QVERIFY(!fader.isResetOnDoubleTapEnabled());
+    fader.setDragMode(Fader::StepDrag);
+    QCOMPARE(fader.dragMode(), Fader::StepDrag);
+}
+
+void tst_Fader::defaultValue_data()
+{
+    QTest::addColumn<bool>("explicitDefault");
+    QTest::addColumn<int>("setTo");
+    QTest::addColumn<int>("expected");
+    QTest::addColumn<int>("newMinimum");
+    QTest::addColumn<int>("newMaximum");
+    QTest::addColumn<int>("expectedAfterRange");
+
+    QTest::newRow("follows the minimum") << false << 0 << 0 << -20 << 50 << -20;
+    QTest::newRow("explicit default stays when the range changes") << true << 30 << 30 << -20 << 50 << 30;
+    QTest::newRow("explicit default at the minimum stays put") << true << 0 << 0 << -20 << 50 << 0;
+    QTest::newRow("kept outside a later range") << true << 80 << 80 << 0 << 50 << 80;
+    QTest::newRow("kept beyond the range") << true << 500 << 500 << 0 << 1000 << 500;
+    QTest::newRow("kept below the range") << true << -500 << -500 << -10 << 10 << -500;
+    QTest::newRow("int maximum") << true << INT_MAX << INT_MAX << 0 << 10 << INT_MAX;
+    QTest::newRow("int minimum") << true << INT_MIN << INT_MIN << 0 << 10 << INT_MIN;
+}
+
+void tst_Fader::defaultValue()
+{
+    QFETCH(bool, explicitDefault);
+    QFETCH(int, setTo);
+    QFETCH(int, expected);
+    QFETCH(int, newMinimum);
+    QFETCH(int, newMaximum);
+    QFETCH(int, expectedAfterRange);
+
+    Fader fader;
+    fader.setRange(0, 100);
+    fader.setValue(50);
+    QSignalSpy values(&fader, &QSlider::valueChanged);
+    if (explicitDefault)
+        fader.setDefaultValue(setTo);
+    QCOMPARE(fader.defaultValue(), expected);
+    // Setting the default leaves the value alone.
+    QCOMPARE(fader.value(), 50);
+    QCOMPARE(values.count(), 0);
+
+    fader.setRange(newMinimum, newMaximum);
+    QCOMPARE(fader.defaultValue(), expectedAfterRange);
+}
+
+void tst_Fader::doubleTapResetsToDefault_data()
+{
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<bool>("explicitDefault");
+    QTest::addColumn<int>("defaultValue");
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("expected");
+
+    const QString click = QStringLiteral("double click");
+    const QString tap = QStringLiteral("double tap");
+    const QString event = QStringLiteral("double click event");
+
+    QTest::newRow("double click resets to the default") << click << true << true << 30 << 50 << 30;
+    QTest::newRow("double tap resets to the default") << tap << true << true << 30 << 50 << 30;
+    QTest::newRow("double click event alone resets") << event << true << true << 30 << 50 << 30;
+    QTest::newRow("default following the minimum") << click << true << false << 0 << 50 << -10;
+    QTest::newRow("double tap to the minimum") << tap << true << false << 0 << 50 << -10;
+    QTest::newRow("default above the range is clamped") << click << true << true << 500 << 50 << 100;
+    QTest::newRow("default below the range is clamped") << tap << true << true << -500 << 50 << -10;
+    QTest::newRow("already at the default") << click << true << true << 30 << 30 << 30;
+    QTest::newRow("switched off, a double click changes nothing") << click << false << true << 30 << 50 << 50;
+    QTest::newRow("switched off, a double tap changes nothing") << tap << false << true << 30 << 50 << 50;
+    QTest::newRow("switched off, a double click event changes nothing") << event << false << true << 30 << 50 << 50;
+}
+
+void tst_Fader::doubleTapResetsToDefault()
+{
+    QFETCH(QString, input);
+    QFETCH(bool, enabled);
+    QFETCH(bool, explicitDefault);
+    QFETCH(int, defaultValue);
+    QFETCH(int, start);
+    QFETCH(int, expected);
+
+    Scene scene(Qt::Vertical, -10, 100, start);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    scene.fader->setResetOnDoubleTapEnabled(enabled);
+    if (explicitDefault)
+        scene.fader->setDefaultValue(defaultValue);
+    QSignalSpy values(scene.fader, &QSlider::valueChanged);
+    QSignalSpy sliding(scene.fader, &Fader::slidingChanged);
+    const QPoint center = sliderHandleRect(*scene.fader).center();
+
+    if (input == QLatin1String("double click")) {
+        doubleClick(scene.fader, center);
+    } else if (input == QLatin1String("double tap")) {
+        doubleTap(scene.fader, center);
+    } else {
+        sendPress(scene.fader, QEvent::MouseButtonDblClick, center, Qt::LeftButton);
+        // The handle is held as after any press on it.
+        QVERIFY(scene.fader->isSliding());
+        QCOMPARE(sliding.count(), 1);
+        QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, center);
+    }
+
+    QCOMPARE(scene.fader->value(), expected);
+    QCOMPARE(values.count(), expected == start ? 0 : 1);
+    if (!values.isEmpty())
+        QCOMPARE(values.at(0).at(0).toInt(), expected);
+    QVERIFY(!scene.fader->isSliding());
+    QVERIFY(sliding.count() >= 2);
+    QCOMPARE(sliding.first().at(0).toBool(), true);
+    QCOMPARE(sliding.last().at(0).toBool(), false);
+    QVERIFY(scene.parent.presses.isEmpty());
+    QCOMPARE(scene.fader->property("class"), noClass());
+    // The default is not changed by applying it.
+    QCOMPARE(scene.fader->defaultValue(), explicitDefault ? defaultValue : -10);
+    QCOMPARE(pixels(*scene.fader), lookAt(*scene.fader, expected));
+}
+
+void tst_Fader::doubleTapBesideTheHandleDoesNothing_data()
+{
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<int>("offset"); // from the handle's centre, along the fader
+
+    QTest::newRow("double click below the handle") << QStringLiteral("double click") << 40;
+    QTest::newRow("double click above the handle") << QStringLiteral("double click") << -40;
+    QTest::newRow("double tap below the handle") << QStringLiteral("double tap") << 40;
+    QTest::newRow("double tap above the handle") << QStringLiteral("double tap") << -40;
+}
+
+void tst_Fader::doubleTapBesideTheHandleDoesNothing()
+{
+    QFETCH(QString, input);
+    QFETCH(int, offset);
+
+    Scene scene(Qt::Vertical);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    scene.fader->setResetOnDoubleTapEnabled(true);
+    scene.fader->setDefaultValue(20);
+    QSignalSpy values(scene.fader, &QSlider::valueChanged);
+    QSignalSpy sliding(scene.fader, &Fader::slidingChanged);
+    const QImage before = pixels(*scene.fader);
+    const QPoint point = sliderHandleRect(*scene.fader).center() + QPoint(0, offset);
+    QVERIFY(scene.fader->rect().contains(point));
+    QVERIFY(!sliderHandleRect(*scene.fader).contains(point));
+
+    if (input == QLatin1String("double click"))
+        doubleClick(scene.fader, point);
+    else
+        doubleTap(scene.fader, point);
+
+    QCOMPARE(scene.fader->value(), 50);
+    QCOMPARE(values.count(), 0);
+    QVERIFY(!scene.fader->isSliding());
+    for (const QList<QVariant> &signal : std::as_const(sliding))
+        QCOMPARE(signal.at(0).toBool(), false);
+    // The presses went on to the parent, as any press beside the handle does.
+    QVERIFY(!scene.parent.presses.isEmpty());
+    QCOMPARE(pixels(*scene.fader), before);
+}
+
+void tst_Fader::dragAfterResetStartsAtDefault()
+{
+    Scene scene(Qt::Vertical);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    scene.fader->setResetOnDoubleTapEnabled(true);
+    scene.fader->setDefaultValue(30);
+    QSignalSpy values(scene.fader, &QSlider::valueChanged);
+    QSignalSpy sliding(scene.fader, &Fader::slidingChanged);
+    const QPoint center = sliderHandleRect(*scene.fader).center();
+
+    sendPress(scene.fader, QEvent::MouseButtonDblClick, center, Qt::LeftButton);
+    QCOMPARE(scene.fader->value(), 30);
+    QVERIFY(scene.fader->isSliding());
+    moveHeld(scene.fader, center + QPoint(0, -11));
+    QCOMPARE(scene.fader->value(), 30);
+    moveHeld(scene.fader, center + QPoint(0, -30));
+    QCOMPARE(scene.fader->value(), 33);
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, center + QPoint(0, -30));
+
+    QCOMPARE(values.count(), 2);
+    QCOMPARE(values.at(0).at(0).toInt(), 30);
+    QCOMPARE(values.at(1).at(0).toInt(), 33);
+    QCOMPARE(sliding.count(), 2);
+    QCOMPARE(scene.fader->singleStep(), 10);
+}
+
+void tst_Fader::fullRangeDragSweepsTheRange_data()
+{
+    QTest::addColumn<Qt::Orientation>("orientation");
+    QTest::addColumn<int>("minimum");
+    QTest::addColumn<int>("maximum");
+    QTest::addColumn<bool>("painted"); // whether the style can place the handle over the range
+
+    QTest::newRow("vertical 0 to 100") << Qt::Vertical << 0 << 100 << true;
+    QTest::newRow("vertical 0 to 5000") << Qt::Vertical << 0 << 5000 << true;
+    QTest::newRow("vertical -150 to 150") << Qt::Vertical << -150 << 150 << true;
+    QTest::newRow("vertical 0 to 7, fewer values than pixels") << Qt::Vertical << 0 << 7 << true;
+    QTest::newRow("vertical down to half the int range") << Qt::Vertical << INT_MIN / 2 << 0 << true;
+    // The style's slider arithmetic overflows on a range of 2^31 or more, so only the values count.
+    QTest::newRow("vertical over the int range") << Qt::Vertical << INT_MIN << INT_MAX << false;
+    QTest::newRow("horizontal 0 to 5000") << Qt::Horizontal << 0 << 5000 << true;
+    QTest::newRow("horizontal -1000 to 1000") << Qt::Horizontal << -1000 << 1000 << true;
+}
+
+void tst_Fader::fullRangeDragSweepsTheRange()
+{
+    QFETCH(Qt::Orientation, orientation);
+    QFETCH(int, minimum);
+    QFETCH(int, maximum);
+    QFETCH(bool, painted);
+
+    Scene scene(orientation, minimum, maximum, minimum);
+    // Wide enough for a horizontal groove to be worth dragging along.
+    if (orientation == Qt::Horizontal)
+        scene.fader->setFixedSize(200, 17);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    scene.fader->setDragMode(Fader::FullRangeDrag);
+    QSignalSpy values(scene.fader, &QSlider::valueChanged);
+    QSignalSpy sliding(scene.fader, &Fader::slidingChanged);
+    const Fader &fader = *scene.fader;
+    const int span = grooveSpan(fader);
+    QVERIFY2(span > 100, qPrintable(QString::number(span)));
+    // Where there are fewer values than pixels the handle moves by whole values.
+    const double slack = 1 + std::max(0.0, 0.5 * span / (double(maximum) - minimum));
+
+    // Up from the minimum's end of the groove to the maximum's, one pixel at a time.
+    QPoint grab = sliderHandleRect(fader).center();
+    QTest::mousePress(scene.fader, Qt::LeftButton, {}, grab);
+    moveHeld(scene.fader, raisedBy(fader, grab, modeThreshold()));
+    QCOMPARE(fader.property("class").toString(), QStringLiteral("fine"));
+    QCOMPARE(fader.value(), minimum);
+    int previous = minimum;
+    for (int raised = 1; raised <= span; ++raised) {
+        const QPoint finger = raisedBy(fader, grab, raised);
+        moveHeld(scene.fader, finger);
+        QVERIFY2(fader.value() >= previous, qPrintable(QStringLiteral("at %1").arg(raised)));
+        previous = fader.value();
+        // The handle stays under the finger.
+        const int offset = along(fader, sliderHandleRect(fader).center()) - along(fader, finger);
+        QVERIFY2(!painted || std::abs(offset) <= slack,
+                 qPrintable(QStringLiteral("at %1: %2 pixels off").arg(raised).arg(offset)));
+    }
+    QCOMPARE(fader.value(), maximum);
+    moveHeld(scene.fader, raisedBy(fader, grab, span + 30));
+    QCOMPARE(fader.value(), maximum);
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, raisedBy(fader, grab, span + 30));
+    QCOMPARE(values.last().at(0).toInt(), maximum);
+    QCOMPARE(sliding.count(), 2);
+    if (painted)
+        QCOMPARE(pixels(*scene.fader), lookAt(*scene.fader, maximum));
+
+    // And back down in one move.
+    grab = sliderHandleRect(fader).center();
+    QTest::mousePress(scene.fader, Qt::LeftButton, {}, grab);
+    moveHeld(scene.fader, raisedBy(fader, grab, -modeThreshold()));
+    QCOMPARE(fader.value(), maximum);
+    moveHeld(scene.fader, raisedBy(fader, grab, -span));
+    QCOMPARE(fader.value(), minimum);
+    moveHeld(scene.fader, raisedBy(fader, grab, -span - 30));
+    QCOMPARE(fader.value(), minimum);
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, raisedBy(fader, grab, -span - 30));
+    QCOMPARE(values.last().at(0).toInt(), minimum);
+    QCOMPARE(sliding.count(), 4);
+    if (painted)
+        QCOMPARE(pixels(*scene.fader), lookAt(*scene.fader, minimum));
+    QVERIFY(scene.parent.presses.isEmpty());
+}
+
+void tst_Fader::fullRangeDragIsRelativeToTheGrab()
+{
+    Scene scene(Qt::Vertical, 0, 5000, 2503);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    scene.fader->setDragMode(Fader::FullRangeDrag);
+    QSignalSpy values(scene.fader, &QSlider::valueChanged);
+    const int span = grooveSpan(*scene.fader);
+    const QPoint grab = sliderHandleRect(*scene.fader).center();
+
+    QTest::mousePress(scene.fader, Qt::LeftButton, {}, grab);
+    // The move that decides the mode changes no value.
+    moveHeld(scene.fader, grab + QPoint(0, -11));
+    QCOMPARE(scene.fader->value(), 2503);
+    // Back at the grab the value is the one grabbed, not the one nearest to the pixel.
+    moveHeld(scene.fader, grab);
+    QCOMPARE(scene.fader->value(), 2503);
+    QCOMPARE(values.count(), 0);
+    // One pixel is worth a span's share of the range.
+    moveHeld(scene.fader, grab + QPoint(0, -1));
+    QCOMPARE(scene.fader->value(), 2503 + qRound(5000.0 / span));
+    moveHeld(scene.fader, grab + QPoint(0, 10));
+    QCOMPARE(scene.fader->value(), 2503 - qRound(50000.0 / span));
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, grab + QPoint(0, 10));
+    QCOMPARE(values.count(), 2);
+}
+
+void tst_Fader::fullRangeCoarseSnapsToBiggerSteps_data()
+{
+    QTest::addColumn<int>("minimum");
+    QTest::addColumn<int>("maximum");
+    QTest::addColumn<int>("step");
+
+    // The first of 10, 20, 50, 100, ... worth 10 pixels of a groove of 150 to 199 pixels.
+    QTest::newRow("0 to 100 in tens") << 0 << 100 << 10;
+    QTest::newRow("0 to 5000 in five hundreds") << 0 << 5000 << 500;
+    QTest::newRow("-150 to 150 in twenties") << -150 << 150 << 20;
+    QTest::newRow("0 to 2000 in two hundreds") << 0 << 2000 << 200;
+    QTest::newRow("down to half the int range in hundred millions") << INT_MIN / 2 << 0 << 100000000;
+}
+
+void tst_Fader::fullRangeCoarseSnapsToBiggerSteps()
+{
+    QFETCH(int, minimum);
+    QFETCH(int, maximum);
+    QFETCH(int, step);
+
+    Scene scene(Qt::Vertical, minimum, maximum, minimum);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    scene.fader->setDragMode(Fader::FullRangeDrag);
+    const Fader &fader = *scene.fader;
+    const int span = grooveSpan(fader);
+    QVERIFY2(span >= 150 && span < 200, qPrintable(QString::number(span)));
+    const double pixelsPerUnit = double(span) / (double(maximum) - minimum);
+
+    // The same sweep in fine mode, then in coarse mode; the largest change between two pixels
+    // in fine mode and the changes in coarse mode, ends of the range aside.
+    auto sweep = [&](int across, QVector<int> &changes) {
+        scene.fader->setValue(minimum);
+        const QPoint grab = sliderHandleRect(fader).center();
+        QTest::mousePress(scene.fader, Qt::LeftButton, {}, grab);
+        moveHeld(scene.fader, across ? grab + QPoint(across, 0) : raisedBy(fader, grab, modeThreshold()));
+        int previous = fader.value();
+        for (int raised = 1; raised <= span; ++raised) {
+            const QPoint finger = raisedBy(fader, grab, raised, across);
+            moveHeld(scene.fader, finger);
+            const int value = fader.value();
+            if (value != previous && previous != minimum && value != maximum)
+                changes.append(value - previous);
+            if (across) {
+                QVERIFY2(value % step == 0 || value == minimum || value == maximum,
+                         qPrintable(QStringLiteral("at %1: %2").arg(raised).arg(value)));
+                // Within half a step of the finger.
+                const int offset = along(fader, sliderHandleRect(fader).center()) - along(fader, finger);
+                QVERIFY2(std::abs(offset) <= step / 2 * pixelsPerUnit + 1,
+                         qPrintable(QStringLiteral("at %1: %2 pixels off").arg(raised).arg(offset)));
+            }
+            previous = value;
+        }
+        QCOMPARE(fader.value(), maximum);
+        QCOMPARE(fader.property("class").toString(), across ? QStringLiteral("coarse") : QStringLiteral("fine"));
+        QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, raisedBy(fader, grab, span, across));
+        QCOMPARE(scene.fader->singleStep(), across ? 5 : 10);
+    };
+
+    QVector<int> fine;
+    sweep(0, fine);
+    QVector<int> coarse;
+    QSignalSpy values(scene.fader, &QSlider::valueChanged);
+    sweep(12, coarse);
+    QVERIFY(!fine.isEmpty());
+    QVERIFY(!coarse.isEmpty());
+    const int largestFine = *std::max_element(fine.cbegin(), fine.cend());
+    QVERIFY2(largestFine < step, qPrintable(QString::number(largestFine)));
+    for (int change : std::as_const(coarse))
+        QCOMPARE(change, step);
+    // Coarse mode reaches a value once for every step of the range at most.
+    QVERIFY(values.count() <= (qint64(maximum) - minimum) / step + 3);
+}
+
+void tst_Fader::fullRangeDragKeepsTheFaderRules()
+{
+    Scene scene(Qt::Vertical, 0, 5000, 2500);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    scene.fader->setDragMode(Fader::FullRangeDrag);
+    QSignalSpy values(scene.fader, &QSlider::valueChanged);
+    QSignalSpy sliding(scene.fader, &Fader::slidingChanged);
+    const QRect handle = sliderHandleRect(*scene.fader);
+
+    // A press beside the handle does not jump and goes on to the parent.
+    const QPoint groove(handle.center().x(), handle.bottom() + 30);
+    QTest::mousePress(scene.fader, Qt::LeftButton, {}, groove);
+    moveHeld(scene.fader, groove + QPoint(0, -60));
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, groove + QPoint(0, -60));
+    QCOMPARE(scene.fader->value(), 2500);
+    QCOMPARE(scene.parent.presses.size(), 1);
+    QCOMPARE(sliding.count(), 1);
+
+    // Ten pixels decide nothing; the eleventh chooses the mode without moving the value.
+    const QPoint grab = handle.center();
+    QTest::mousePress(scene.fader, Qt::LeftButton, {}, grab);
+    moveHeld(scene.fader, grab + QPoint(10, -10));
+    QCOMPARE(scene.fader->property("class"), noClass());
+    QCOMPARE(scene.fader->value(), 2500);
+    moveHeld(scene.fader, grab + QPoint(10, -11));
+    QCOMPARE(scene.fader->property("class").toString(), QStringLiteral("fine"));
+    QCOMPARE(scene.fader->value(), 2500);
+    QCOMPARE(values.count(), 0);
+    moveHeld(scene.fader, grab + QPoint(10, -40));
+    QVERIFY(scene.fader->value() > 2500);
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, grab + QPoint(10, -40));
+    QCOMPARE(scene.fader->property("class"), noClass());
+    QCOMPARE(scene.fader->singleStep(), 10);
+    QCOMPARE(sliding.count(), 3);
+
+    // The wheel still moves nothing.
+    const int value = scene.fader->value();
+    sendWheel(scene.fader, sliderHandleRect(*scene.fader).center(), 120);
+    QCOMPARE(scene.fader->value(), value);
+}
+
+void tst_Fader::dragModeSwitchesBack()
+{
+    Scene scene(Qt::Vertical);
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.parent));
+    scene.fader->setDragMode(Fader::FullRangeDrag);
+    scene.fader->setDragMode(Fader::StepDrag);
+    const QPoint grab = sliderHandleRect(*scene.fader).center();
+    QTest::mousePress(scene.fader, Qt::LeftButton, {}, grab);
+    moveHeld(scene.fader, grab + QPoint(0, -11));
+    moveHeld(scene.fader, grab + QPoint(0, -30));
+    QCOMPARE(scene.fader->value(), 53);
+
+    // A change during a drag applies from the next move on.
+    scene.fader->setDragMode(Fader::FullRangeDrag);
+    moveHeld(scene.fader, grab + QPoint(0, -31));
+    const int span = grooveSpan(*scene.fader);
+    QCOMPARE(scene.fader->value(), 50 + qRound(31 * 100.0 / span));
+    QTest::mouseRelease(scene.fader, Qt::LeftButton, {}, grab + QPoint(0, -31));
 }
 
 QTEST_MAIN(tst_Fader)

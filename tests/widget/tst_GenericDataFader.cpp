@@ -9,6 +9,7 @@
 
 #include <cfloat>
 #include <climits>
+#include <cmath>
 #include <limits>
 
 using ko::qtToolkit::test::moveHeld;
@@ -78,6 +79,13 @@ private Q_SLOTS:
     void limitsThatAreNotANumberAreRefused();
     void labels_data();
     void labels();
+    void defaultData_data();
+    void defaultData();
+    void defaultDataFollowsTheDecimals();
+    void defaultDataThatIsNotANumberIsRefused();
+    void doubleTapResetsData();
+    void fullRangeDragSweepsTheData_data();
+    void fullRangeDragSweepsTheData();
 };
 
 void tst_GenericDataFader::defaults()
@@ -411,6 +419,171 @@ void tst_GenericDataFader::labels()
             if (text.pixel(x, y) == qRgb(255, 255, 255) && image.pixel(x, y) != slider.pixel(x, y))
                 ++sliderMismatches;
     QCOMPARE(sliderMismatches, 0);
+}
+
+void tst_GenericDataFader::defaultData_data()
+{
+    QTest::addColumn<unsigned int>("decimals");
+    QTest::addColumn<float>("minimum");
+    QTest::addColumn<float>("maximum");
+    QTest::addColumn<bool>("explicitDefault");
+    QTest::addColumn<float>("setTo");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<float>("data");
+
+    QTest::newRow("the minimum until one is set") << 1u << -2.5f << 10.0f << false << 0.0f << -25 << -2.5f;
+    QTest::newRow("the minimum on the slider's grid") << 1u << -2.55f << 10.0f << false << 0.0f << -25 << -2.5f;
+    QTest::newRow("one decimal") << 1u << 0.0f << 500.0f << true << 250.0f << 2500 << 250.0f;
+    QTest::newRow("truncated toward zero to the decimals") << 2u << -1.5f << 1.5f << true << 0.257f << 25 << 0.25f;
+    QTest::newRow("negative truncated toward zero") << 2u << -1.5f << 1.5f << true << -0.257f << -25 << -0.25f;
+    QTest::newRow("no decimals") << 0u << 0.0f << 10.0f << true << 3.9f << 3 << 3.0f;
+    QTest::newRow("kept beyond the range") << 1u << 0.0f << 10.0f << true << 20.0f << 200 << 20.0f;
+    QTest::newRow("minus infinity saturates") << 1u << -10.0f << 0.0f << true << -std::numeric_limits<float>::infinity()
+                                              << INT_MIN << float(INT_MIN) / 10.0f;
+}
+
+void tst_GenericDataFader::defaultData()
+{
+    QFETCH(unsigned int, decimals);
+    QFETCH(float, minimum);
+    QFETCH(float, maximum);
+    QFETCH(bool, explicitDefault);
+    QFETCH(float, setTo);
+    QFETCH(int, value);
+    QFETCH(float, data);
+
+    GenericDataFader fader(Qt::Vertical);
+    fader.setNumberOfDecimals(decimals);
+    fader.setMinimumData(minimum);
+    fader.setMaximumData(maximum);
+    fader.setData(maximum);
+    QSignalSpy spy(&fader, &GenericDataFader::dataChanged);
+    if (explicitDefault)
+        fader.setDefaultData(setTo);
+    QCOMPARE(fader.defaultValue(), value);
+    QCOMPARE(fader.defaultData(), data);
+    QCOMPARE(asFloat(fader.property("defaultData")), data);
+    // Setting the default leaves the data alone.
+    QCOMPARE(fader.getData(), maximum);
+    QCOMPARE(spy.count(), 0);
+}
+
+void tst_GenericDataFader::defaultDataFollowsTheDecimals()
+{
+    GenericDataFader fader(Qt::Vertical);
+    QCOMPARE(fader.defaultData(), 0.0f);
+    fader.setMinimumData(-5.0f);
+    QCOMPARE(fader.defaultValue(), -50);
+    QCOMPARE(fader.defaultData(), -5.0f);
+
+    // Set through the property, as a form or a style would.
+    QVERIFY(fader.setProperty("defaultData", 2.5f));
+    QCOMPARE(fader.defaultValue(), 25);
+    fader.setNumberOfDecimals(2);
+    QCOMPARE(fader.defaultValue(), 250);
+    QCOMPARE(fader.defaultData(), 2.5f);
+    fader.setNumberOfDecimals(0);
+    QCOMPARE(fader.defaultValue(), 2);
+    QCOMPARE(fader.defaultData(), 2.0f);
+    // Back to more decimals, the data given is mapped again rather than the rounded value.
+    fader.setNumberOfDecimals(1);
+    QCOMPARE(fader.defaultValue(), 25);
+    QCOMPARE(fader.defaultData(), 2.5f);
+    // A change of the data range keeps the default.
+    fader.setMaximumData(1.0f);
+    QCOMPARE(fader.defaultData(), 2.5f);
+}
+
+void tst_GenericDataFader::defaultDataThatIsNotANumberIsRefused()
+{
+    GenericDataFader fader(Qt::Vertical);
+    fader.setDefaultData(1.5f);
+    QTest::ignoreMessage(QtWarningMsg, "GenericDataFader::setDefaultData: ignoring a default that is not a number");
+    fader.setDefaultData(std::numeric_limits<float>::quiet_NaN());
+    QCOMPARE(fader.defaultData(), 1.5f);
+    QCOMPARE(fader.defaultValue(), 15);
+}
+
+void tst_GenericDataFader::doubleTapResetsData()
+{
+    QWidget window;
+    window.resize(100, 260);
+    auto *fader = new GenericDataFader(Qt::Vertical, &window);
+    fader->setMaximumData(500.0f);
+    fader->setData(123.4f);
+    fader->setDefaultData(250.0f);
+    fader->setResetOnDoubleTapEnabled(true);
+    fader->setGeometry(40, 20, 17, 220);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+    QSignalSpy data(fader, &GenericDataFader::dataChanged);
+    const QPoint center = fader->mapTo(&window, sliderHandleRect(*fader).center());
+    QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, center);
+    QCOMPARE(fader->getData(), 250.0f);
+    QCOMPARE(data.count(), 1);
+    QCOMPARE(data.at(0).at(0).value<float>(), 250.0f);
+    QVERIFY(!fader->isSliding());
+
+    // Rendered as a fader set to the default.
+    GenericDataFader reference(Qt::Vertical);
+    reference.setMaximumData(500.0f);
+    reference.setData(250.0f);
+    reference.setFixedSize(fader->size());
+    QCOMPARE(fader->grab().toImage().convertToFormat(QImage::Format_RGB32),
+             reference.grab().toImage().convertToFormat(QImage::Format_RGB32));
+
+    // Switched off, a double click leaves the data.
+    fader->setData(100.0f);
+    fader->setResetOnDoubleTapEnabled(false);
+    data.clear();
+    QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {},
+                       fader->mapTo(&window, sliderHandleRect(*fader).center()));
+    QCOMPARE(fader->getData(), 100.0f);
+    QCOMPARE(data.count(), 0);
+}
+
+void tst_GenericDataFader::fullRangeDragSweepsTheData_data()
+{
+    QTest::addColumn<int>("across"); // 0 for fine mode
+    QTest::newRow("fine") << 0;
+    QTest::newRow("coarse") << 12;
+}
+
+// 0 to 500 with one decimal is 5000 slider units: 25000 pixels of a coarse drag by steps, the
+// length of the groove by the full range.
+void tst_GenericDataFader::fullRangeDragSweepsTheData()
+{
+    QFETCH(int, across);
+
+    QWidget window;
+    window.resize(100, 260);
+    auto *fader = new GenericDataFader(Qt::Vertical, &window);
+    fader->setMaximumData(500.0f);
+    fader->setData(0.0f);
+    fader->setDragMode(Fader::FullRangeDrag);
+    fader->setGeometry(40, 20, 17, 220);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+    QSignalSpy data(fader, &GenericDataFader::dataChanged);
+    const QPoint grab = sliderHandleRect(*fader).center();
+    const int top = fader->height();
+    QTest::mousePress(fader, Qt::LeftButton, {}, grab);
+    moveHeld(fader, across ? grab + QPoint(across, 0) : grab + QPoint(0, -11));
+    QCOMPARE(data.count(), 0);
+    moveHeld(fader, grab + QPoint(across, -top / 2));
+    const float half = fader->getData();
+    QVERIFY2(half > 200.0f && half < 300.0f, qPrintable(QString::number(double(half))));
+    if (across)
+        QCOMPARE(std::fmod(half, 50.0f), 0.0f);
+    moveHeld(fader, grab + QPoint(across, -top));
+    QTest::mouseRelease(fader, Qt::LeftButton, {}, grab + QPoint(across, -top));
+
+    QCOMPARE(fader->getData(), 500.0f);
+    QCOMPARE(data.count(), 2);
+    QCOMPARE(data.at(0).at(0).value<float>(), half);
+    QCOMPARE(data.at(1).at(0).value<float>(), 500.0f);
 }
 
 QTEST_MAIN(tst_GenericDataFader)

@@ -9,7 +9,9 @@
 
 #include <algorithm>
 #include <climits>
+#include <cmath>
 #include <cstdlib>
+#include <optional>
 
 namespace ko::qtToolkit::widget {
 
@@ -27,10 +29,15 @@ public:
     int pressValue = 0;
     bool sliding = false;
     Mode mode = Mode::Undecided;
+    // Unset while the default follows the minimum.
+    std::optional<int> defaultValue;
+    bool resetOnDoubleTap = false;
+    Fader::DragMode dragMode = Fader::StepDrag;
 
 private:
     bool press(QMouseEvent *event);
     int draggedValue(int along) const;
+    int fullRangeValue(int along) const;
     void move(const QMouseEvent *event);
     void release();
     void setMode(Mode newMode);
@@ -44,6 +51,27 @@ constexpr int fineStep = 10;
 constexpr int coarseStep = 5;
 constexpr int coarseRounding = 10;
 constexpr int faderWidth = 17;
+// A full-range drag in coarse mode snaps to a step worth at least this many pixels.
+constexpr int coarseSnapPixels = 10;
+
+// The first of 10, 20, 50, 100, 200, 500, ... that is at least \a minimum: round numbers, so
+// that a coarse drag over a data fader stops at round data values.
+qint64 coarseSnapStep(double minimum)
+{
+    for (qint64 decade = coarseRounding;; decade *= 10) {
+        for (const qint64 factor : {1, 2, 5}) {
+            if (double(decade * factor) >= minimum)
+                return decade * factor;
+        }
+    }
+}
+
+// \a value rounded to the nearest multiple of \a step, halves away from zero.
+qint64 nearestMultiple(qint64 value, qint64 step)
+{
+    const qint64 half = step / 2;
+    return value >= 0 ? (value + half) / step * step : -((-value + half) / step * step);
+}
 
 } // namespace
 
@@ -89,6 +117,8 @@ bool FaderPrivate::press(QMouseEvent *event)
         event->ignore();
         return true;
     }
+    if (event->type() == QEvent::MouseButtonDblClick && resetOnDoubleTap)
+        q->setValue(q->defaultValue());
     pressPosition = position;
     pressValue = q->value();
     sliding = true;
@@ -116,10 +146,11 @@ void FaderPrivate::move(const QMouseEvent *event)
         break;
     }
     case Mode::Fine:
-        q->setValue(draggedValue(along));
+        q->setValue(dragMode == Fader::FullRangeDrag ? fullRangeValue(along) : draggedValue(along));
         break;
     case Mode::Coarse:
-        q->setValue(draggedValue(along) / coarseRounding * coarseRounding);
+        q->setValue(dragMode == Fader::FullRangeDrag ? fullRangeValue(along)
+                                                     : draggedValue(along) / coarseRounding * coarseRounding);
         break;
     }
 }
@@ -130,6 +161,36 @@ int FaderPrivate::draggedValue(int along) const
     // unbounded range is, would overflow.
     const qint64 value = qint64(pressValue) - along / std::max(1, q->singleStep());
     return int(std::clamp<qint64>(value, INT_MIN, INT_MAX));
+}
+
+int FaderPrivate::fullRangeValue(int along) const
+{
+    // The pixels the handle can travel, measured as QSlider measures them for its own drags.
+    QStyleOptionSlider option;
+    q->initStyleOption(&option);
+    const QRect groove = q->style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, q);
+    const QRect handle = q->style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, q);
+    const bool horizontal = q->orientation() == Qt::Horizontal;
+    const int span = horizontal ? groove.width() - handle.width() : groove.height() - handle.height();
+    const qint64 minimum = q->minimum();
+    const qint64 maximum = q->maximum();
+    if (span <= 0 || maximum <= minimum)
+        return pressValue;
+
+    // Relative to the grab, so that the value stays put until the finger moves; the ends of the
+    // groove give the ends of the range exactly, whatever the rounding on the way.
+    const double range = double(maximum - minimum);
+    const qint64 raised = -qint64(along);
+    const double travel = double(pressValue - minimum) * span / range + double(raised);
+    if (travel <= 0)
+        return int(minimum);
+    if (travel >= span)
+        return int(maximum);
+    // Between the ends the finger has moved less than the span, so this stays within the range.
+    qint64 value = pressValue + std::llround(double(raised) * range / span);
+    if (mode == Mode::Coarse)
+        value = nearestMultiple(value, coarseSnapStep(range * coarseSnapPixels / span));
+    return int(std::clamp(value, minimum, maximum));
 }
 
 void FaderPrivate::release()
@@ -181,6 +242,36 @@ Fader::~Fader() = default;
 bool Fader::isSliding() const
 {
     return d->sliding;
+}
+
+int Fader::defaultValue() const
+{
+    return d->defaultValue.value_or(minimum());
+}
+
+void Fader::setDefaultValue(int value)
+{
+    d->defaultValue = value;
+}
+
+bool Fader::isResetOnDoubleTapEnabled() const
+{
+    return d->resetOnDoubleTap;
+}
+
+void Fader::setResetOnDoubleTapEnabled(bool enabled)
+{
+    d->resetOnDoubleTap = enabled;
+}
+
+Fader::DragMode Fader::dragMode() const
+{
+    return d->dragMode;
+}
+
+void Fader::setDragMode(DragMode mode)
+{
+    d->dragMode = mode;
 }
 
 } // namespace ko::qtToolkit::widget

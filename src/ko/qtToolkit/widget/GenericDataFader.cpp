@@ -6,6 +6,7 @@
 #include <QVariant>
 
 #include <cmath>
+#include <optional>
 
 namespace ko::qtToolkit::widget {
 
@@ -16,6 +17,8 @@ public:
     float maximumData = 10.0f;
     unsigned int numberOfDecimals = 1;
     float scale = 10.0f;
+    // What setDefaultData() was given, mapped again when the scale changes.
+    std::optional<float> defaultData;
 };
 
 namespace {
@@ -95,9 +98,28 @@ void GenericDataFader::setNumberOfDecimals(unsigned int decimals)
 
 void GenericDataFader::updateFaderRange()
 {
-    d->scale = std::pow(10.0f, static_cast<float>(d->numberOfDecimals));
+    const float scale = std::pow(10.0f, static_cast<float>(d->numberOfDecimals));
+    const bool rescaled = scale != d->scale;
+    d->scale = scale;
     setRange(common::truncatedToSliderBound(d->minimumData * d->scale),
              common::truncatedToSliderBound(d->maximumData * d->scale));
+    if (rescaled && d->defaultData)
+        setDefaultValue(common::truncatedToInt(*d->defaultData * d->scale));
+}
+
+float GenericDataFader::defaultData() const
+{
+    return static_cast<float>(defaultValue()) / d->scale;
+}
+
+void GenericDataFader::setDefaultData(float data)
+{
+    if (std::isnan(data)) {
+        qWarning("GenericDataFader::setDefaultData: ignoring a default that is not a number");
+        return;
+    }
+    d->defaultData = data;
+    setDefaultValue(common::truncatedToInt(data * d->scale));
 }
 
 void GenericDataFader::paintEvent(QPaintEvent *event)

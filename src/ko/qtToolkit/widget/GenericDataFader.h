@@ -30,6 +30,7 @@ class KO_QTTOOLKIT_EXPORT GenericDataFader : public Fader
 {
     Q_OBJECT
     Q_PROPERTY(float GenericFaderData READ getData WRITE setData NOTIFY dataChanged)
+    Q_PROPERTY(float defaultData READ defaultData WRITE setDefaultData)
 
 public:
     /**
@@ -72,6 +73,29 @@ public:
      * reaching to infinity, such as an attenuation of -inf to 0 dB, still paints.
      */
     void updateFaderRange();
+
+    /**
+     * \brief The data a double tap on the handle resets the fader to: defaultValue() divided by
+     *        the scale.
+     *
+     * Until a default is set this is the slider's minimum divided by the scale, the lower end of
+     * the data range on the slider's grid.
+     */
+    float defaultData() const;
+
+    /**
+     * \brief Sets the default value to \a data times the scale, truncated toward zero, as
+     *        setData() maps data. Resetting on a double tap is switched on with
+     *        setResetOnDoubleTapEnabled().
+     *
+     * The data is kept and mapped again whenever the number of decimals changes, so a default of
+     * 2.5 stays 2.5 with any number of decimals. Like defaultValue(), it may lie outside the data
+     * range and is clamped only when applied. NaN is refused with a warning.
+     *
+     * \warning Fader::setDefaultValue() sets the slider's default directly; the data given here
+     * last replaces it again at the next change of the number of decimals.
+     */
+    void setDefaultData(float data);
 
 public Q_SLOTS:
     /**
