@@ -51,4 +51,15 @@ void LinearAxis::setMinorLabelsColor(const QColor &color)
         Q_EMIT minorLabelsColorChanged(color);
 }
 
+bool LinearAxis::hideOverlappingLabels() const
+{
+    return d_func()->hideOverlappingLabels;
+}
+
+void LinearAxis::setHideOverlappingLabels(bool hide)
+{
+    if (d_func()->setHideOverlappingLabels(hide))
+        Q_EMIT hideOverlappingLabelsChanged(hide);
+}
+
 } // namespace ko::qtToolkit::charts

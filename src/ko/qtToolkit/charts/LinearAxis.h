@@ -29,6 +29,7 @@ class KO_QTTOOLKIT_EXPORT LinearAxis : public QtCharts::QValueAxis
     Q_OBJECT
     Q_PROPERTY(bool minorLabelsVisible READ minorLabelsVisible WRITE setMinorLabelsVisible NOTIFY minorLabelsVisibleChanged)
     Q_PROPERTY(QColor minorLabelsColor READ minorLabelsColor WRITE setMinorLabelsColor NOTIFY minorLabelsColorChanged)
+    Q_PROPERTY(bool hideOverlappingLabels READ hideOverlappingLabels WRITE setHideOverlappingLabels NOTIFY hideOverlappingLabelsChanged)
 
 public:
     /// An axis without ticker of its own, showing its minor labels.
@@ -57,11 +58,29 @@ public:
     /// Gives the minor labels, shown ones included, the colour \a color.
     void setMinorLabelsColor(const QColor &color);
 
+    /// Whether labels that would overlap other labels are hidden; false by default.
+    bool hideOverlappingLabels() const;
+    /**
+     * \brief Hides, at every layout pass, each label that would overlap a label already kept.
+     *
+     * With \a hide true, labels are kept in this order: the major labels, then the minor labels,
+     * each in tick order from the lower end of the range. A label whose box would intersect that
+     * of a label kept before it is hidden; labels without text take no part. Tick marks and grid
+     * lines stay. Labels the axis does not show (its labels or minor labels hidden) neither
+     * hide nor are hidden. With \a hide false (the default) every label is shown, overlapping
+     * or not, and the label width limit alone keeps them apart.
+     *
+     * Takes effect at once on a laid-out axis, and at every later layout pass.
+     */
+    void setHideOverlappingLabels(bool hide);
+
 Q_SIGNALS:
     /// The minor labels were shown or hidden.
     void minorLabelsVisibleChanged(bool visible);
     /// The minor labels got another colour.
     void minorLabelsColorChanged(const QColor &color);
+    /// Hiding of overlapping labels was switched on or off.
+    void hideOverlappingLabelsChanged(bool hide);
 
 private:
     Q_DECLARE_PRIVATE(LinearAxis)

@@ -51,4 +51,15 @@ void LogarithmicAxis::setMinorLabelsColor(const QColor &color)
         Q_EMIT minorLabelsColorChanged(color);
 }
 
+bool LogarithmicAxis::hideOverlappingLabels() const
+{
+    return d_func()->hideOverlappingLabels;
+}
+
+void LogarithmicAxis::setHideOverlappingLabels(bool hide)
+{
+    if (d_func()->setHideOverlappingLabels(hide))
+        Q_EMIT hideOverlappingLabelsChanged(hide);
+}
+
 } // namespace ko::qtToolkit::charts

@@ -25,6 +25,7 @@ class KO_QTTOOLKIT_EXPORT LogarithmicAxis : public QtCharts::QLogValueAxis
     Q_OBJECT
     Q_PROPERTY(bool minorLabelsVisible READ minorLabelsVisible WRITE setMinorLabelsVisible NOTIFY minorLabelsVisibleChanged)
     Q_PROPERTY(QColor minorLabelsColor READ minorLabelsColor WRITE setMinorLabelsColor NOTIFY minorLabelsColorChanged)
+    Q_PROPERTY(bool hideOverlappingLabels READ hideOverlappingLabels WRITE setHideOverlappingLabels NOTIFY hideOverlappingLabelsChanged)
 
 public:
     /// An axis without ticker of its own, showing its minor labels.
@@ -44,12 +45,18 @@ public:
     QColor minorLabelsColor() const;
     /// \copydoc LinearAxis::setMinorLabelsColor()
     void setMinorLabelsColor(const QColor &color);
+    /// \copydoc LinearAxis::hideOverlappingLabels()
+    bool hideOverlappingLabels() const;
+    /// \copydoc LinearAxis::setHideOverlappingLabels()
+    void setHideOverlappingLabels(bool hide);
 
 Q_SIGNALS:
     /// \copydoc LinearAxis::minorLabelsVisibleChanged()
     void minorLabelsVisibleChanged(bool visible);
     /// \copydoc LinearAxis::minorLabelsColorChanged()
     void minorLabelsColorChanged(const QColor &color);
+    /// \copydoc LinearAxis::hideOverlappingLabelsChanged()
+    void hideOverlappingLabelsChanged(bool hide);
 
 private:
     Q_DECLARE_PRIVATE(LogarithmicAxis)

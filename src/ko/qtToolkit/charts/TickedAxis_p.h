@@ -11,8 +11,9 @@
 namespace ko::qtToolkit::charts {
 
 /**
- * \brief What the library's own axes keep beside Qt Charts' state: the ticker and the minor
- *        labels' settings, with the range and label format the ticker works on.
+ * \brief What the library's own axes keep beside Qt Charts' state: the ticker, the minor
+ *        labels' settings and whether overlapping labels are hidden, with the range and label
+ *        format the ticker works on.
  */
 class KO_QTTOOLKIT_EXPORT TickedAxisState
 {
@@ -43,10 +44,20 @@ public:
         return true;
     }
 
+    /// Stores \a hide; whether it changed.
+    bool setHideOverlappingLabels(bool hide)
+    {
+        if (hideOverlappingLabels == hide)
+            return false;
+        hideOverlappingLabels = hide;
+        return true;
+    }
+
     AxisTicker defaultTicker;
     AxisTicker *currentTicker = &defaultTicker;
     bool minorLabelsVisible = true;
     QBrush minorLabelsBrush = QtCharts::QChartPrivate::defaultBrush();
+    bool hideOverlappingLabels = false;
 };
 
 /**
