@@ -602,13 +602,13 @@ void CartesianChartAxis::hideOverlappingLabels()
         label->setVisible(visible);
         hidden = hidden || !visible;
     };
-    const bool majorLabelsShown = labelGroup()->isVisible();
+    const bool majorShown = labelGroup()->isVisible();
     for (QGraphicsItem *label : labelItems())
-        keepOrHide(label, majorLabelsShown);
+        keepOrHide(label, majorShown);
     // Minor labels skipped while hidden are laid out before they are shown.
-    const bool minorLabelsShown = m_minorLabelsLaidOut && m_minorLabelGroup->isVisible();
+    const bool minorShown = m_minorLabelsLaidOut && m_minorLabelGroup->isVisible();
     for (QGraphicsItem *label : minorLabelItems())
-        keepOrHide(label, minorLabelsShown);
+        keepOrHide(label, minorShown);
     m_overlappingLabelsHidden = hidden;
 }
 
