@@ -51,14 +51,14 @@ void checkProperties()
 {
     Axis axis;
     const QMetaObject *meta = axis.metaObject();
-    QCOMPARE(meta->propertyCount() - meta->propertyOffset(), 3);
+    QCOMPARE(meta->propertyCount() - meta->propertyOffset(), 2);
     const QMetaProperty visible = meta->property(meta->indexOfProperty("minorLabelsVisible"));
     const QMetaProperty color = meta->property(meta->indexOfProperty("minorLabelsColor"));
     QVERIFY(visible.isValid() && visible.isWritable() && visible.hasNotifySignal());
     QVERIFY(color.isValid() && color.isWritable() && color.hasNotifySignal());
     QCOMPARE(visible.notifySignal().methodSignature(), QByteArray("minorLabelsVisibleChanged(bool)"));
     QCOMPARE(color.notifySignal().methodSignature(), QByteArray("minorLabelsColorChanged(QColor)"));
-    QCOMPARE(meta->methodCount() - meta->methodOffset(), 3);
+    QCOMPARE(meta->methodCount() - meta->methodOffset(), 2);
 
     QSignalSpy colorSpy(&axis, &Axis::minorLabelsColorChanged);
     QVERIFY(axis.setProperty("minorLabelsColor", QColor(Qt::green)));
