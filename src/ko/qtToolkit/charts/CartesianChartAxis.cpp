@@ -6,8 +6,6 @@
 #include <ko/qtToolkit/charts/EmptyPolarAxis_p.h>
 #include <ko/qtToolkit/charts/GraphicsLineItem_p.h>
 #include <ko/qtToolkit/charts/HorizontalAxis_p.h>
-#include <ko/qtToolkit/charts/LinearAxis.h>
-#include <ko/qtToolkit/charts/LogarithmicAxis.h>
 #include <ko/qtToolkit/charts/TickedAxis_p.h>
 #include <ko/qtToolkit/charts/VerticalAxis_p.h>
 
@@ -244,11 +242,10 @@ CartesianChartAxis::CartesianChartAxis(Qt::Orientation orientation, QtCharts::QA
     });
     // Which labels overlap depends on the placed labels only: switching the hiding on or off, or
     // showing the labels again, needs no new layout pass.
-    if (auto *linearAxis = qobject_cast<LinearAxis *>(axis))
-        connect(linearAxis, &LinearAxis::hideOverlappingLabelsChanged, this, &CartesianChartAxis::updateLabelOverlaps);
-    else if (auto *logarithmicAxis = qobject_cast<LogarithmicAxis *>(axis))
-        connect(logarithmicAxis, &LogarithmicAxis::hideOverlappingLabelsChanged, this,
+    if (TickedAxisState *state = tickedAxisState(*axis)) {
+        connect(state->notifier(axis), &AxisNotifier::hideOverlappingLabelsChanged, this,
                 &CartesianChartAxis::updateLabelOverlaps);
+    }
     connect(axis, &QtCharts::QAbstractAxis::labelsVisibleChanged, this, &CartesianChartAxis::updateLabelOverlaps);
     m_minorLabelGroup->setZValue(minorLabelZValue);
     m_minorLabelGroup->setVisible(axis->isVisible() && minorLabelsVisible());

@@ -58,8 +58,12 @@ bool LinearAxis::hideOverlappingLabels() const
 
 void LinearAxis::setHideOverlappingLabels(bool hide)
 {
-    if (d_func()->setHideOverlappingLabels(hide))
-        Q_EMIT hideOverlappingLabelsChanged(hide);
+    d_func()->setHideOverlappingLabels(hide);
+}
+
+AxisNotifier *LinearAxis::notifier() const
+{
+    return const_cast<LinearAxisPrivate *>(d_func())->notifier(const_cast<LinearAxis *>(this));
 }
 
 } // namespace ko::qtToolkit::charts

@@ -9,6 +9,7 @@
 
 namespace ko::qtToolkit::charts {
 
+class AxisNotifier;
 class AxisTicker;
 class LinearAxisPrivate;
 
@@ -29,7 +30,6 @@ class KO_QTTOOLKIT_EXPORT LinearAxis : public QtCharts::QValueAxis
     Q_OBJECT
     Q_PROPERTY(bool minorLabelsVisible READ minorLabelsVisible WRITE setMinorLabelsVisible NOTIFY minorLabelsVisibleChanged)
     Q_PROPERTY(QColor minorLabelsColor READ minorLabelsColor WRITE setMinorLabelsColor NOTIFY minorLabelsColorChanged)
-    Q_PROPERTY(bool hideOverlappingLabels READ hideOverlappingLabels WRITE setHideOverlappingLabels NOTIFY hideOverlappingLabelsChanged)
 
 public:
     /// An axis without ticker of its own, showing its minor labels.
@@ -70,17 +70,20 @@ public:
      * hide nor are hidden. With \a hide false (the default) every label is shown, overlapping
      * or not, and the label width limit alone keeps them apart.
      *
-     * Takes effect at once on a laid-out axis, and at every later layout pass.
+     * Takes effect at once on a laid-out axis, and at every later layout pass. A change is
+     * signalled by notifier().
      */
     void setHideOverlappingLabels(bool hide);
+
+    /// The object that signals changes of hideOverlappingLabels(), made on first use and owned
+    /// by the axis.
+    AxisNotifier *notifier() const;
 
 Q_SIGNALS:
     /// The minor labels were shown or hidden.
     void minorLabelsVisibleChanged(bool visible);
     /// The minor labels got another colour.
     void minorLabelsColorChanged(const QColor &color);
-    /// Hiding of overlapping labels was switched on or off.
-    void hideOverlappingLabelsChanged(bool hide);
 
 private:
     Q_DECLARE_PRIVATE(LinearAxis)

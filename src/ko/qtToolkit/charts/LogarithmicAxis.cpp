@@ -58,8 +58,12 @@ bool LogarithmicAxis::hideOverlappingLabels() const
 
 void LogarithmicAxis::setHideOverlappingLabels(bool hide)
 {
-    if (d_func()->setHideOverlappingLabels(hide))
-        Q_EMIT hideOverlappingLabelsChanged(hide);
+    d_func()->setHideOverlappingLabels(hide);
+}
+
+AxisNotifier *LogarithmicAxis::notifier() const
+{
+    return const_cast<LogarithmicAxisPrivate *>(d_func())->notifier(const_cast<LogarithmicAxis *>(this));
 }
 
 } // namespace ko::qtToolkit::charts

@@ -9,6 +9,7 @@
 
 namespace ko::qtToolkit::charts {
 
+class AxisNotifier;
 class AxisTicker;
 class LogarithmicAxisPrivate;
 
@@ -25,7 +26,6 @@ class KO_QTTOOLKIT_EXPORT LogarithmicAxis : public QtCharts::QLogValueAxis
     Q_OBJECT
     Q_PROPERTY(bool minorLabelsVisible READ minorLabelsVisible WRITE setMinorLabelsVisible NOTIFY minorLabelsVisibleChanged)
     Q_PROPERTY(QColor minorLabelsColor READ minorLabelsColor WRITE setMinorLabelsColor NOTIFY minorLabelsColorChanged)
-    Q_PROPERTY(bool hideOverlappingLabels READ hideOverlappingLabels WRITE setHideOverlappingLabels NOTIFY hideOverlappingLabelsChanged)
 
 public:
     /// An axis without ticker of its own, showing its minor labels.
@@ -49,14 +49,14 @@ public:
     bool hideOverlappingLabels() const;
     /// \copydoc LinearAxis::setHideOverlappingLabels()
     void setHideOverlappingLabels(bool hide);
+    /// \copydoc LinearAxis::notifier()
+    AxisNotifier *notifier() const;
 
 Q_SIGNALS:
     /// \copydoc LinearAxis::minorLabelsVisibleChanged()
     void minorLabelsVisibleChanged(bool visible);
     /// \copydoc LinearAxis::minorLabelsColorChanged()
     void minorLabelsColorChanged(const QColor &color);
-    /// \copydoc LinearAxis::hideOverlappingLabelsChanged()
-    void hideOverlappingLabelsChanged(bool hide);
 
 private:
     Q_DECLARE_PRIVATE(LogarithmicAxis)

@@ -1,6 +1,7 @@
 #ifndef KO_QTTOOLKIT_CHARTS_TICKEDAXIS_P_H
 #define KO_QTTOOLKIT_CHARTS_TICKEDAXIS_P_H
 
+#include <ko/qtToolkit/charts/AxisNotifier.h>
 #include <ko/qtToolkit/charts/AxisTicker.h>
 #include <ko/qtToolkit/charts/CartesianChartAxis_p.h>
 
@@ -44,20 +45,18 @@ public:
         return true;
     }
 
-    /// Stores \a hide; whether it changed.
-    bool setHideOverlappingLabels(bool hide)
-    {
-        if (hideOverlappingLabels == hide)
-            return false;
-        hideOverlappingLabels = hide;
-        return true;
-    }
+    /// The axis's notifier, made on first use as a child of \a axis.
+    AxisNotifier *notifier(QObject *axis);
+
+    /// Stores \a hide and signals a change through the notifier, if one was made.
+    void setHideOverlappingLabels(bool hide);
 
     AxisTicker defaultTicker;
     AxisTicker *currentTicker = &defaultTicker;
     bool minorLabelsVisible = true;
     QBrush minorLabelsBrush = QtCharts::QChartPrivate::defaultBrush();
     bool hideOverlappingLabels = false;
+    AxisNotifier *axisNotifier = nullptr;
 };
 
 /**
