@@ -4,6 +4,7 @@
 // class, fails here.
 
 #include <ko/qtToolkit/behavior/Draggable.h>
+#include <ko/qtToolkit/charts/AxisNotifier.h>
 #include <ko/qtToolkit/charts/AxisTicker.h>
 #include <ko/qtToolkit/charts/CustomAxisTicker.h>
 #include <ko/qtToolkit/charts/FrequencyAxis.h>
@@ -101,6 +102,7 @@ std::vector<Row> rows()
     return {
         row<behavior::Draggable, NoBase>("behavior::Draggable", OwnPointer),
 
+        row<charts::AxisNotifier, QObject>("charts::AxisNotifier", BasePointerOnly),
         row<charts::AxisTicker, VirtualRoot>("charts::AxisTicker", OwnPointer),
         row<charts::CustomAxisTicker, charts::AxisTicker>("charts::CustomAxisTicker", OwnPointer),
         row<charts::LogarithmicAxisTicker, charts::AxisTicker>("charts::LogarithmicAxisTicker", OwnPointer),
