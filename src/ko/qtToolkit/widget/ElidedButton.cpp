@@ -1,5 +1,7 @@
 #include <ko/qtToolkit/widget/ElidedButton.h>
 
+#include <ko/qtToolkit/widget/FullTextToolTip_p.h>
+
 #include <QEvent>
 #include <QFontMetrics>
 #include <QPainter>
@@ -14,6 +16,7 @@ public:
     int cachedWidth = -1;
     QString sourceText;
     QString elidedText;
+    FullTextToolTip toolTip;
 };
 
 ElidedButton::ElidedButton(QWidget *parent)
@@ -48,12 +51,15 @@ void ElidedButton::updateElidedText()
     const QRect contents = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
     d->elidedText = QFontMetrics(font()).elidedText(d->sourceText, Qt::ElideRight,
                                                    contents.width() - iconSize().width() - 4, Qt::TextShowMnemonic);
+    d->toolTip.update(*this, d->elidedText != d->sourceText, d->sourceText);
 }
 
 bool ElidedButton::event(QEvent *e)
 {
     if (e->type() == QEvent::Show || e->type() == QEvent::Paint)
         updateElidedText();
+    if (d->toolTip.event(*this, e))
+        return true;
     return QPushButton::event(e);
 }
 

@@ -1,5 +1,7 @@
 #include <ko/qtToolkit/widget/ElidedLabel.h>
 
+#include <ko/qtToolkit/widget/FullTextToolTip_p.h>
+
 #include <QFontMetrics>
 
 namespace ko::qtToolkit::widget {
@@ -10,6 +12,7 @@ public:
     Qt::TextElideMode elideMode = Qt::ElideRight;
     QString elidedText;
     QString sourceText; // null while elidedText is out of date
+    FullTextToolTip toolTip;
 };
 
 ElidedLabel::ElidedLabel(QWidget *parent, Qt::WindowFlags f)
@@ -32,6 +35,9 @@ void ElidedLabel::setElideMode(Qt::TextElideMode mode)
     // width afresh.
     d->elideMode = mode;
     d->sourceText = QString();
+    // Without elision nothing is cut and updateCache() is not called on paint.
+    if (mode == Qt::ElideNone)
+        d->toolTip.update(*this, false, text());
     update();
 }
 
@@ -50,6 +56,7 @@ void ElidedLabel::updateCache()
     const QFontMetrics metrics(font());
     // 4 pixels of inner allowance keep the last glyph off the label's edge.
     d->elidedText = metrics.elidedText(d->sourceText, d->elideMode, width() - 4, Qt::TextShowMnemonic);
+    d->toolTip.update(*this, d->elideMode != Qt::ElideNone && d->elidedText != d->sourceText, d->sourceText);
     if (d->sourceText.isEmpty())
         return;
 
@@ -77,6 +84,13 @@ void ElidedLabel::paintEvent(QPaintEvent *event)
     QLabel::paintEvent(event);
     setText(fullText);
     setAttribute(Qt::WA_UpdatesDisabled, updatesWereDisabled);
+}
+
+bool ElidedLabel::event(QEvent *e)
+{
+    if (d->toolTip.event(*this, e))
+        return true;
+    return QLabel::event(e);
 }
 
 void ElidedLabel::resizeEvent(QResizeEvent *event)
