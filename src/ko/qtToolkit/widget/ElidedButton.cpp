@@ -13,6 +13,11 @@ namespace ko::qtToolkit::widget {
 class ElidedButtonPrivate
 {
 public:
+    explicit ElidedButtonPrivate(QWidget &button)
+        : toolTip(button)
+    {
+    }
+
     int cachedWidth = -1;
     QString sourceText;
     QString elidedText;
@@ -21,19 +26,19 @@ public:
 
 ElidedButton::ElidedButton(QWidget *parent)
     : Button(parent)
-    , d(std::make_unique<ElidedButtonPrivate>())
+    , d(std::make_unique<ElidedButtonPrivate>(*this))
 {
 }
 
 ElidedButton::ElidedButton(const QString &text, QWidget *parent)
     : Button(text, parent)
-    , d(std::make_unique<ElidedButtonPrivate>())
+    , d(std::make_unique<ElidedButtonPrivate>(*this))
 {
 }
 
 ElidedButton::ElidedButton(const QIcon &icon, const QString &text, QWidget *parent)
     : Button(icon, text, parent)
-    , d(std::make_unique<ElidedButtonPrivate>())
+    , d(std::make_unique<ElidedButtonPrivate>(*this))
 {
 }
 
@@ -51,15 +56,13 @@ void ElidedButton::updateElidedText()
     const QRect contents = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
     d->elidedText = QFontMetrics(font()).elidedText(d->sourceText, Qt::ElideRight,
                                                    contents.width() - iconSize().width() - 4, Qt::TextShowMnemonic);
-    d->toolTip.update(*this, d->elidedText != d->sourceText, d->sourceText);
+    d->toolTip.update(d->elidedText != d->sourceText, d->sourceText);
 }
 
 bool ElidedButton::event(QEvent *e)
 {
     if (e->type() == QEvent::Show || e->type() == QEvent::Paint)
         updateElidedText();
-    if (d->toolTip.event(*this, e))
-        return true;
     return QPushButton::event(e);
 }
 

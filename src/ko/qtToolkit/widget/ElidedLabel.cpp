@@ -9,6 +9,11 @@ namespace ko::qtToolkit::widget {
 class ElidedLabelPrivate
 {
 public:
+    explicit ElidedLabelPrivate(QWidget &label)
+        : toolTip(label)
+    {
+    }
+
     Qt::TextElideMode elideMode = Qt::ElideRight;
     QString elidedText;
     QString sourceText; // null while elidedText is out of date
@@ -17,13 +22,13 @@ public:
 
 ElidedLabel::ElidedLabel(QWidget *parent, Qt::WindowFlags f)
     : QLabel(parent, f)
-    , d(std::make_unique<ElidedLabelPrivate>())
+    , d(std::make_unique<ElidedLabelPrivate>(*this))
 {
 }
 
 ElidedLabel::ElidedLabel(const QString &text, QWidget *parent, Qt::WindowFlags f)
     : QLabel(text, parent, f)
-    , d(std::make_unique<ElidedLabelPrivate>())
+    , d(std::make_unique<ElidedLabelPrivate>(*this))
 {
 }
 
@@ -37,7 +42,7 @@ void ElidedLabel::setElideMode(Qt::TextElideMode mode)
     d->sourceText = QString();
     // Without elision nothing is cut and updateCache() is not called on paint.
     if (mode == Qt::ElideNone)
-        d->toolTip.update(*this, false, text());
+        d->toolTip.update(false, text());
     update();
 }
 
@@ -56,7 +61,7 @@ void ElidedLabel::updateCache()
     const QFontMetrics metrics(font());
     // 4 pixels of inner allowance keep the last glyph off the label's edge.
     d->elidedText = metrics.elidedText(d->sourceText, d->elideMode, width() - 4, Qt::TextShowMnemonic);
-    d->toolTip.update(*this, d->elideMode != Qt::ElideNone && d->elidedText != d->sourceText, d->sourceText);
+    d->toolTip.update(d->elideMode != Qt::ElideNone && d->elidedText != d->sourceText, d->sourceText);
     if (d->sourceText.isEmpty())
         return;
 
@@ -84,13 +89,6 @@ void ElidedLabel::paintEvent(QPaintEvent *event)
     QLabel::paintEvent(event);
     setText(fullText);
     setAttribute(Qt::WA_UpdatesDisabled, updatesWereDisabled);
-}
-
-bool ElidedLabel::event(QEvent *e)
-{
-    if (d->toolTip.event(*this, e))
-        return true;
-    return QLabel::event(e);
 }
 
 void ElidedLabel::resizeEvent(QResizeEvent *event)

@@ -63,7 +63,6 @@ public:
     void updateCache();
 
 protected:
-    bool event(QEvent *e) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 

@@ -8,7 +8,13 @@
 
 namespace ko::qtToolkit::widget {
 
-void FullTextToolTip::update(QWidget &widget, bool shortened, const QString &fullText)
+FullTextToolTip::FullTextToolTip(QWidget &widget)
+    : widget(widget)
+{
+    widget.installEventFilter(this);
+}
+
+void FullTextToolTip::update(bool shortened, const QString &fullText)
 {
     if (!own && !widget.toolTip().isEmpty())
         return;
@@ -18,15 +24,17 @@ void FullTextToolTip::update(QWidget &widget, bool shortened, const QString &ful
     setting = true;
     widget.setToolTip(shortened ? fullText : QString());
     setting = false;
-    setOwn(widget, shortened);
+    setOwn(shortened);
 }
 
-bool FullTextToolTip::event(QWidget &widget, QEvent *event)
+bool FullTextToolTip::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched != &widget)
+        return false;
     switch (event->type()) {
     case QEvent::ToolTipChange:
         if (!setting)
-            setOwn(widget, false);
+            setOwn(false);
         return false;
     case QEvent::Gesture: {
         auto *gestureEvent = static_cast<QGestureEvent *>(event);
@@ -43,7 +51,7 @@ bool FullTextToolTip::event(QWidget &widget, QEvent *event)
     }
 }
 
-void FullTextToolTip::setOwn(QWidget &widget, bool on)
+void FullTextToolTip::setOwn(bool on)
 {
     if (own == on)
         return;

@@ -1,9 +1,9 @@
 #ifndef KO_QTTOOLKIT_WIDGET_FULLTEXTTOOLTIP_P_H
 #define KO_QTTOOLKIT_WIDGET_FULLTEXTTOOLTIP_P_H
 
+#include <QObject>
 #include <QString>
 
-class QEvent;
 class QWidget;
 
 namespace ko::qtToolkit::widget {
@@ -15,22 +15,25 @@ namespace ko::qtToolkit::widget {
  * sets takes over and is left alone; an application that clears its tool tip hands it back.
  * While the widget's own tool tip is up, a press and hold (Qt's tap-and-hold gesture) shows it,
  * for a touch screen has no hover.
+ *
+ * It watches the widget as an event filter, so that the widget's own event handling, and that
+ * of classes derived from it, stays as it was.
  */
-class FullTextToolTip
+class FullTextToolTip : public QObject
 {
 public:
-    /// \brief Sets or clears the full-text tool tip of \a widget; call whenever the shortened text is computed.
-    void update(QWidget &widget, bool shortened, const QString &fullText);
+    /// \brief Watches \a widget, which must outlive this object.
+    explicit FullTextToolTip(QWidget &widget);
 
-    /// \brief Call from the widget's event(); true when \a event was handled here.
-    bool event(QWidget &widget, QEvent *event);
+    /// \brief Sets or clears the full-text tool tip; call whenever the shortened text is computed.
+    void update(bool shortened, const QString &fullText);
 
-    /// \brief Whether the widget's tool tip is the full text set here.
-    bool isShown() const { return own; }
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void setOwn(QWidget &widget, bool on);
+    void setOwn(bool on);
 
+    QWidget &widget;
     bool own = false;
     bool setting = false;
 };
