@@ -27,6 +27,7 @@
 #include <ko/qtToolkit/widget/GenericDataFader.h>
 #include <ko/qtToolkit/widget/Keypad.h>
 #include <ko/qtToolkit/widget/LevelMeter.h>
+#include <ko/qtToolkit/widget/LevelScale.h>
 #include <ko/qtToolkit/widget/ListWidget.h>
 #include <ko/qtToolkit/widget/TableWidget.h>
 #include <ko/qtToolkit/widget/TextEntry.h>
@@ -131,6 +132,7 @@ std::vector<Row> rows()
         row<widget::Keypad, QGroupBox>("widget::Keypad", OwnPointer),
         row<widget::LevelMeter, QProgressBar>("widget::LevelMeter", OwnPointer),
         row<widget::LevelMeterNotifier, QObject>("widget::LevelMeterNotifier", BasePointerOnly),
+        row<widget::LevelScale, QWidget>("widget::LevelScale", OwnPointer),
         row<widget::ListWidget, QListWidget>("widget::ListWidget", OwnPointer),
         row<widget::TableWidget, QTableWidget>("widget::TableWidget", OwnPointer),
         row<widget::TextEntry, QWidget>("widget::TextEntry", OwnPointer),
