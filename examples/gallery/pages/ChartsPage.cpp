@@ -1,5 +1,6 @@
 // Chart axes: a linear time axis and a logarithmic level axis whose ticks come from their
-// tickers, with labels at the minor ticks. Drag the plot to pan, turn the wheel to zoom.
+// tickers, with labels at the minor ticks. Drag the plot to pan, turn the wheel to zoom. Beside
+// it, the same axes on a narrow chart hide the labels that would overlap.
 
 #include "GalleryPage.h"
 #include "PanZoomChartView.h"
@@ -10,6 +11,9 @@
 #include <ko/qtToolkit/charts/LogarithmicAxisTicker.h>
 
 #include <QCheckBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
 #include <QtCharts/QChartView>
 #include <QtCharts/QLineSeries>
 
@@ -34,6 +38,46 @@ QtCharts::QLineSeries *createLevelSeries()
         series->append(t, std::pow(10.0, t / 25.0) * (1.0 + 0.4 * std::sin(t / 2.0)) + 1.0);
     }
     return series;
+}
+
+// A narrow chart of the same level over time, too narrow for every label its axes make: those
+// that would overlap are hidden, major labels kept before minor ones.
+QWidget *createNarrowChart(charts::LogarithmicAxisTicker *decades)
+{
+    auto *chart = new QtCharts::QChart;
+    chart->legend()->hide();
+    auto *time = new charts::LinearAxis;
+    time->setRange(timeMin, timeMax);
+    time->setLabelFormat(QStringLiteral("%.0f"));
+    time->ticker()->setTickCount(3);
+    time->setMinorLabelsColor(QColor(0x4a, 0x7a, 0xb5));
+    time->setHideOverlappingLabels(true);
+    auto *level = new charts::LogarithmicAxis;
+    level->setTicker(decades);
+    level->setRange(levelMin, levelMax);
+    level->setLabelFormat(QStringLiteral("%g"));
+    level->setMinorLabelsColor(QColor(0x4a, 0x7a, 0xb5));
+    level->setHideOverlappingLabels(true);
+    chart->addAxis(time, Qt::AlignBottom);
+    chart->addAxis(level, Qt::AlignLeft);
+    auto *series = createLevelSeries();
+    chart->addSeries(series);
+    series->attachAxis(time);
+    series->attachAxis(level);
+
+    auto *view = new QtCharts::QChartView(chart);
+    view->setRenderHint(QPainter::Antialiasing);
+    view->setFixedWidth(230);
+    auto *hide = new QCheckBox(QStringLiteral("Hide overlapping"));
+    hide->setChecked(true);
+    QObject::connect(hide, &QCheckBox::toggled, time, &charts::LinearAxis::setHideOverlappingLabels);
+    QObject::connect(hide, &QCheckBox::toggled, level, &charts::LogarithmicAxis::setHideOverlappingLabels);
+
+    auto *box = new QGroupBox(QStringLiteral("Narrow"));
+    auto *layout = new QVBoxLayout(box);
+    layout->addWidget(view, 1);
+    layout->addWidget(hide);
+    return box;
 }
 
 QWidget *createChartsPage()
@@ -76,10 +120,17 @@ QWidget *createChartsPage()
     QObject::connect(minorLabels, &QCheckBox::toggled, time, &charts::LinearAxis::setMinorLabelsVisible);
     QObject::connect(minorLabels, &QCheckBox::toggled, level, &charts::LogarithmicAxis::setMinorLabelsVisible);
 
-    return gallery::chartPage(view, minorLabels, [time, level] {
-        time->setRange(timeMin, timeMax);
-        level->setRange(levelMin, levelMax);
-    });
+    auto *page = new QWidget;
+    auto *layout = new QHBoxLayout(page);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(gallery::chartPage(view, minorLabels,
+                                         [time, level] {
+                                             time->setRange(timeMin, timeMax);
+                                             level->setRange(levelMin, levelMax);
+                                         }),
+                      1);
+    layout->addWidget(createNarrowChart(&decades));
+    return page;
 }
 
 const gallery::PageRegistration registration{10, QStringLiteral("Charts"), createChartsPage};

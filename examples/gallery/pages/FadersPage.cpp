@@ -1,11 +1,13 @@
 // Faders and level meters: touch faders whose handle shows the fine or coarse drag through the
-// style sheet, a data fader with decimals, and a wall of meters fed by a simulated signal.
+// style sheet and that a double tap resets, a data fader with decimals and a full-range drag,
+// and a wall of meters with a scale, peak hold and clip latches, fed by a simulated signal.
 
 #include "GalleryPage.h"
 
 #include <ko/qtToolkit/widget/Fader.h>
 #include <ko/qtToolkit/widget/GenericDataFader.h>
 #include <ko/qtToolkit/widget/LevelMeter.h>
+#include <ko/qtToolkit/widget/LevelScale.h>
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -25,6 +27,7 @@ namespace {
 using ko::qtToolkit::widget::Fader;
 using ko::qtToolkit::widget::GenericDataFader;
 using ko::qtToolkit::widget::LevelMeter;
+using ko::qtToolkit::widget::LevelScale;
 
 constexpr int channelCount = 16;
 constexpr int frameMilliseconds = 33;
@@ -34,7 +37,8 @@ QWidget *createFaders()
     auto *box = new QGroupBox(QStringLiteral("Faders"));
     auto *layout = new QVBoxLayout(box);
     auto *hint = new QLabel(QStringLiteral("Grab a handle. Drag along the fader first for fine steps,\n"
-                                           "across it first for coarse steps of 10."));
+                                           "across it first for coarse steps of 10.\n"
+                                           "Double-tap a handle to reset it to 50."));
     hint->setWordWrap(true);
     layout->addWidget(hint);
 
@@ -46,6 +50,8 @@ QWidget *createFaders()
         fader->setRange(0, 100);
         fader->setValue(values[i]);
         fader->setMinimumHeight(160);
+        fader->setDefaultValue(50);
+        fader->setResetOnDoubleTapEnabled(true);
         auto *value = new QLabel(QString::number(values[i]));
         auto *state = new QLabel(QStringLiteral("idle"));
         QObject::connect(fader, &QSlider::valueChanged, value, [value](int v) { value->setNum(v); });
@@ -93,6 +99,8 @@ QWidget *createDataFader()
     fader->setMinimumData(-1.5f);
     fader->setMaximumData(1.5f);
     fader->setData(0.25f);
+    fader->setDefaultData(0.0f);
+    fader->setResetOnDoubleTapEnabled(true);
     fader->setMinimumHeight(220);
 
     auto *value = new QLabel;
@@ -110,9 +118,16 @@ QWidget *createDataFader()
         show();
     });
 
+    // Three decimals make 3,000 steps: dragged step by step, the range takes 15,000 pixels.
+    auto *fullRange = new QCheckBox(QStringLiteral("Full-range drag"));
+    QObject::connect(fullRange, &QCheckBox::toggled, fader, [fader](bool on) {
+        fader->setDragMode(on ? Fader::FullRangeDrag : Fader::StepDrag);
+    });
+
     layout->addWidget(fader, 1, Qt::AlignHCenter);
     layout->addWidget(value);
     layout->addWidget(decimals);
+    layout->addWidget(fullRange);
     return box;
 }
 
@@ -163,25 +178,34 @@ QWidget *createMeterWall()
     auto *box = new QGroupBox(QStringLiteral("Level meters"));
     auto *layout = new QVBoxLayout(box);
     auto *grid = new QGridLayout;
+    // The scale before the first meter, its marks facing it: same height, same top.
+    auto *scale = new LevelScale;
+    scale->setMirrored(true);
+    scale->setFixedHeight(200);
+    grid->addWidget(scale, 0, 0, Qt::AlignRight);
     QVector<LevelMeter *> meters;
     for (int i = 0; i < channelCount; ++i) {
         auto *meter = new LevelMeter;
         meter->setOrientation(Qt::Vertical);
         meter->setFixedSize(20, 200);
+        meter->setPeakHoldEnabled(true);
+        meter->setClipLatchEnabled(true);
         auto *mute = new QPushButton(QStringLiteral("M"));
         mute->setCheckable(true);
         mute->setFixedWidth(28);
         QObject::connect(mute, &QPushButton::toggled, meter, &LevelMeter::setMuted);
         mute->setChecked(i == 5 || i == 11);
-        grid->addWidget(meter, 0, i, Qt::AlignHCenter);
-        grid->addWidget(mute, 1, i, Qt::AlignHCenter);
-        grid->addWidget(new QLabel(QString::number(i + 1)), 2, i, Qt::AlignHCenter);
+        grid->addWidget(meter, 0, i + 1, Qt::AlignHCenter);
+        grid->addWidget(mute, 1, i + 1, Qt::AlignHCenter);
+        grid->addWidget(new QLabel(QString::number(i + 1)), 2, i + 1, Qt::AlignHCenter);
         meters.append(meter);
     }
     layout->addLayout(grid);
 
     auto *horizontal = new LevelMeter;
     horizontal->setFixedHeight(20);
+    horizontal->setPeakHoldEnabled(true);
+    horizontal->setClipLatchEnabled(true);
     auto *horizontalLabel = new QLabel(QStringLiteral("Horizontal: the colours run mirrored"));
     layout->addWidget(horizontalLabel);
     layout->addWidget(horizontal);
@@ -190,6 +214,15 @@ QWidget *createMeterWall()
     auto *running = new QCheckBox(QStringLiteral("Signal running"));
     running->setChecked(true);
     layout->addWidget(running);
+    auto *peaks = new QCheckBox(QStringLiteral("Peak hold and clip latch (tap a meter to release its latch)"));
+    peaks->setChecked(true);
+    QObject::connect(peaks, &QCheckBox::toggled, box, [meters](bool on) {
+        for (LevelMeter *meter : meters) {
+            meter->setPeakHoldEnabled(on);
+            meter->setClipLatchEnabled(on);
+        }
+    });
+    layout->addWidget(peaks);
     layout->addStretch(1);
 
     auto *simulator = new SignalSimulator(meters, box);
