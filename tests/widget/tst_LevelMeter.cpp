@@ -508,11 +508,22 @@ void tst_LevelMeter::tapReleasesTheClipLatch()
     QTRY_VERIFY(!meter.isClipped());
     QCOMPARE(clipped.count(), 4);
 
-    // Off, a press is not the meter's either.
     QCOMPARE(parentPresses.presses, 1);
+
+    // A disabled meter keeps its latch; the press goes on to the parent.
+    meter.setLevel(15.0f);
+    meter.setEnabled(false);
+    QTest::mouseClick(&meter, Qt::LeftButton, {}, QPoint(10, 100));
+    QVERIFY(meter.isClipped());
+    QCOMPARE(parentPresses.presses, 2);
+    meter.setEnabled(true);
+    meter.resetClip();
+    QCOMPARE(clipped.count(), 6);
+
+    // Off, a press is not the meter's either.
     meter.setClipLatchEnabled(false);
     QTest::mouseClick(&meter, Qt::LeftButton, {}, QPoint(10, 100));
-    QCOMPARE(parentPresses.presses, 2);
+    QCOMPARE(parentPresses.presses, 3);
 }
 
 void tst_LevelMeter::clipCap_data()

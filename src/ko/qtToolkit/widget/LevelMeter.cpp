@@ -18,6 +18,28 @@
 
 namespace ko::qtToolkit::widget {
 
+class LevelMeterPrivate;
+
+// Takes the meter's presses while the clip latch is on: a tap, a press and a release on the
+// meter, releases the latch. Watching rather than overriding keeps the meter's virtual table as
+// applications were built against.
+class ClipTapFilter : public QObject
+{
+public:
+    explicit ClipTapFilter(LevelMeterPrivate *meter)
+        : m_meter(meter)
+    {
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    LevelMeterPrivate *const m_meter;
+    // A press on the meter waits for its release.
+    bool m_pressed = false;
+};
+
 class LevelMeterPrivate
 {
 public:
@@ -69,8 +91,7 @@ public:
     bool clipLevelSet = false;
     float clipLevel = 15.0f;
     bool clipped = false;
-    // A press on the meter waits for its release to reset the latch.
-    bool clipPressed = false;
+    std::unique_ptr<ClipTapFilter> clipTapFilter;
     LevelMeterNotifier *notifier = nullptr;
 
     // The value whose lit length the screen shows, or will show once the updates asked for are
@@ -364,6 +385,26 @@ const QColor &LevelMeterPrivate::zoneColor(float level) const
     return level > mediumThresholdLevel ? mediumColor : lowColor;
 }
 
+bool ClipTapFilter::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonRelease)
+        return QObject::eventFilter(watched, event);
+    const auto *mouse = static_cast<QMouseEvent *>(event);
+    // A disabled meter handles no events of its own, as any disabled widget.
+    if (mouse->button() != Qt::LeftButton || !m_meter->q->isEnabled())
+        return false;
+    if (event->type() == QEvent::MouseButtonPress) {
+        m_pressed = true;
+        return true;
+    }
+    if (!m_pressed)
+        return false;
+    m_pressed = false;
+    if (m_meter->q->rect().contains(common::localPosition(*mouse).toPoint()))
+        m_meter->setClipped(false);
+    return true;
+}
+
 float LevelMeterPrivate::effectiveClipLevel() const
 {
     return clipLevelSet ? clipLevel : maximumLevel;
@@ -555,9 +596,13 @@ void LevelMeter::setClipLatchEnabled(bool enabled)
     if (enabled == d->clipLatchEnabled)
         return;
     d->clipLatchEnabled = enabled;
-    d->clipPressed = false;
-    if (!enabled)
+    if (enabled) {
+        d->clipTapFilter = std::make_unique<ClipTapFilter>(d.get());
+        installEventFilter(d->clipTapFilter.get());
+    } else {
+        d->clipTapFilter.reset();
         d->setClipped(false);
+    }
 }
 
 float LevelMeter::clipLevel() const
@@ -719,29 +764,6 @@ void LevelMeter::paintEvent(QPaintEvent *event)
         fillOutline(painter, whole, frameColor);
     if (d->muted && !within(inner.adjusted(1, 1, -1, -1)))
         fillOutline(painter, inner, frameColor);
-}
-
-void LevelMeter::mousePressEvent(QMouseEvent *event)
-{
-    if (!d->clipLatchEnabled || event->button() != Qt::LeftButton) {
-        QProgressBar::mousePressEvent(event);
-        return;
-    }
-    d->clipPressed = true;
-    event->accept();
-}
-
-// A tap, a press and a release on the meter, resets the clip latch.
-void LevelMeter::mouseReleaseEvent(QMouseEvent *event)
-{
-    if (!d->clipPressed || event->button() != Qt::LeftButton) {
-        QProgressBar::mouseReleaseEvent(event);
-        return;
-    }
-    d->clipPressed = false;
-    if (rect().contains(common::localPosition(*event).toPoint()))
-        resetClip();
-    event->accept();
 }
 
 void LevelMeter::resizeEvent(QResizeEvent * /*event*/)
