@@ -75,7 +75,7 @@ const WidgetEntry table[] = {
      "A vertical slider for touch screens. A tap on the groove leaves the value as it is; only a "
      "drag that starts on the handle moves it. A double tap can reset it to its default value.",
      "fader",
-     KO_GEOMETRY(60, 200) "<property name=\"orientation\"><enum>Qt::Vertical</enum></property>",
+     KO_GEOMETRY(17, 200) "<property name=\"orientation\"><enum>Qt::Vertical</enum></property>",
      createPlain<w::Fader>},
     {"ko::qtToolkit::widget::GenericDataFader", "ko/qtToolkit/widget/GenericDataFader.h",
      ":/ko/qtToolkit/designer/genericDataFader.svg",
@@ -84,7 +84,7 @@ const WidgetEntry table[] = {
      "Set the data range and the decimals in code: setMinimumData(), setMaximumData(), "
      "setNumberOfDecimals().",
      "genericDataFader",
-     KO_GEOMETRY(60, 200) "<property name=\"orientation\"><enum>Qt::Vertical</enum></property>",
+     KO_GEOMETRY(17, 200) "<property name=\"orientation\"><enum>Qt::Vertical</enum></property>",
      createGenericDataFader},
     {"ko::qtToolkit::widget::LevelMeter", "ko/qtToolkit/widget/LevelMeter.h",
      ":/ko/qtToolkit/designer/levelMeter.svg",
@@ -100,7 +100,7 @@ const WidgetEntry table[] = {
      "Shows its committed text followed by its suffix; Return, Enter, Tab or leaving the field "
      "commits an edit. With singleton::TextEntry's keypad switch on, a touch opens the keypad.",
      "textEntry",
-     KO_GEOMETRY(160, 40),
+     KO_GEOMETRY(176, 32),
      createPlain<w::TextEntry>},
     {"ko::qtToolkit::widget::Keypad", "ko/qtToolkit/widget/Keypad.h",
      ":/ko/qtToolkit/designer/keypad.svg",
@@ -108,7 +108,7 @@ const WidgetEntry table[] = {
      "The keys 0 to 9, \".\", \"-\", \"K\" (thousands), \"DEL\" and \"OK\" build a number in "
      "the display; \"OK\" emits accepted().",
      "keypad",
-     KO_GEOMETRY(300, 360),
+     KO_GEOMETRY(346, 200),
      createPlain<w::Keypad>},
     {"ko::qtToolkit::widget::Button", "ko/qtToolkit/widget/Button.h",
      ":/ko/qtToolkit/designer/button.svg",
@@ -132,7 +132,7 @@ const WidgetEntry table[] = {
      "\"OFF\" on top and \"ON\" below; a new switch is off. Connect to onToggled() or "
      "offToggled().",
      "toggleButtonGroup",
-     KO_GEOMETRY(100, 100),
+     KO_GEOMETRY(100, 60),
      createPlain<w::ToggleButtonGroup>},
     {"ko::qtToolkit::widget::ElidedLabel", "ko/qtToolkit/widget/ElidedLabel.h",
      ":/ko/qtToolkit/designer/elidedLabel.svg",
