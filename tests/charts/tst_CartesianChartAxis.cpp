@@ -236,6 +236,58 @@ private Q_SLOTS:
         QVERIFY(group->isVisible());
     }
 
+    // Labels the axis does not show take no part in the hiding of overlapping labels, and the
+    // labels that are shown again are sorted out at once, without a new layout pass.
+    void overlapHidingLeavesLabelsNotShownAlone()
+    {
+        AxisTicker ticker;
+        ticker.setTickCount(5);
+        TestChart chart(QSizeF(160, 300));
+        auto *axis = chart.addAxis(new LinearAxis, Qt::AlignBottom);
+        axis->setRange(0.0, 1000.0);
+        axis->setTicker(&ticker);
+        axis->setHideOverlappingLabels(true);
+        chart.layout();
+        auto *element = TestChart::element<CartesianChartAxis>(*axis);
+        // Which labels the hiding keeps: majors, then minors, each by its own flag.
+        const auto kept = [&] {
+            QVector<bool> state;
+            for (const Tick &tick : ticksOf(element))
+                state << tick.label->isVisibleTo(tick.label->parentItem());
+            return state;
+        };
+        const int majors = element->majorTickValues().size();
+        const QVector<bool> all = kept();
+        QVERIFY(all.mid(majors).contains(false));
+
+        // Without the major labels more minor labels find room.
+        axis->setLabelsVisible(false);
+        chart.layout();
+        const QVector<bool> minorsOnly = kept();
+        QVERIFY(!minorsOnly.mid(0, majors).contains(false));
+        QVERIFY(minorsOnly.mid(majors).count(true) > all.mid(majors).count(true));
+        axis->setLabelsVisible(true);
+        QCOMPARE(kept(), all);
+
+        // Without the minor labels the major labels are left as they were; the minor labels are not
+        // touched.
+        axis->setMinorLabelsVisible(false);
+        chart.layout();
+        QCOMPARE(kept().mid(0, majors), all.mid(0, majors));
+        QVERIFY(!kept().mid(majors).contains(false));
+        axis->setMinorLabelsVisible(true);
+        QCOMPARE(kept(), all);
+
+        axis->setVisible(false);
+        chart.layout();
+        axis->setVisible(true);
+        QCOMPARE(kept(), all);
+
+        // Switched off, every label shows again at once.
+        axis->setHideOverlappingLabels(false);
+        QVERIFY(!kept().contains(false));
+    }
+
     // Hidden minor labels are left alone by layout passes; the moment they show again they are
     // what a full layout pass over the same geometry makes of them.
     void minorLabelsShownAgainAreUpToDate_data()

@@ -1,3 +1,5 @@
+#include "TickedAxisChecks.h"
+
 #include <ko/qtToolkit/charts/ChartStyle.h>
 #include <ko/qtToolkit/charts/CustomAxisTicker.h>
 #include <ko/qtToolkit/charts/FrequencyAxis.h>
@@ -113,6 +115,25 @@ private Q_SLOTS:
         QCOMPARE(axis.max(), 20000.0);
         QVERIFY(axis.minorLabelsVisible());
         QVERIFY(dynamic_cast<ko::qtToolkit::charts::CustomAxisTicker *>(axis.ticker()));
+    }
+
+    // Off as for any logarithmic axis: a frequency axis draws all its labels unless asked not to.
+    void hideOverlappingLabelsIsOff()
+    {
+        FrequencyAxis axis;
+        QVERIFY(!axis.hideOverlappingLabels());
+    }
+
+    void shrinkingHidesOverlappingLabels_data() { ko::qtToolkit::test::alignmentRows(); }
+    void shrinkingHidesOverlappingLabels()
+    {
+        ko::qtToolkit::test::checkShrinkingHidesOverlappingLabels(new FrequencyAxis, 20.0, 20000.0);
+    }
+
+    void hidingOffKeepsOverlappingLabels_data() { ko::qtToolkit::test::alignmentRows(); }
+    void hidingOffKeepsOverlappingLabels()
+    {
+        ko::qtToolkit::test::checkHidingOffKeepsOverlappingLabels(new FrequencyAxis, 20.0, 20000.0);
     }
 
     // Nothing of its own in the meta-object system: it is a LogarithmicAxis there.

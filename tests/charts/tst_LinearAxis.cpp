@@ -18,6 +18,21 @@ private Q_SLOTS:
     void tickerChangeWaitsForLayout() { checkTickerChangeWaitsForLayout<LinearAxis>(0.0, 100.0); }
     void elementByOrientation() { checkElementByOrientation<LinearAxis>(); }
     void polarChartDrawsNothing() { checkPolarChartDrawsNothing<LinearAxis>(0.0, 100.0); }
+    void hideOverlappingLabelsSignal() { checkHideOverlappingLabelsSignal<LinearAxis>(); }
+    void shrinkingHidesOverlappingLabels_data() { alignmentRows(); }
+    void shrinkingHidesOverlappingLabels()
+    {
+        ko::qtToolkit::charts::AxisTicker ticker;
+        ticker.setTickCount(5);
+        checkShrinkingHidesOverlappingLabels(new LinearAxis, 0.0, 1000.0, &ticker);
+    }
+    void hidingOffKeepsOverlappingLabels_data() { alignmentRows(); }
+    void hidingOffKeepsOverlappingLabels()
+    {
+        ko::qtToolkit::charts::AxisTicker ticker;
+        ticker.setTickCount(5);
+        checkHidingOffKeepsOverlappingLabels(new LinearAxis, 0.0, 1000.0, &ticker);
+    }
 
     void isAValueAxis()
     {

@@ -1,6 +1,7 @@
 #include "TickedAxisChecks.h"
 
 #include <ko/qtToolkit/charts/LogarithmicAxis.h>
+#include <ko/qtToolkit/charts/LogarithmicAxisTicker.h>
 
 using ko::qtToolkit::charts::LogarithmicAxis;
 using namespace ko::qtToolkit::test;
@@ -18,6 +19,19 @@ private Q_SLOTS:
     void tickerChangeWaitsForLayout() { checkTickerChangeWaitsForLayout<LogarithmicAxis>(1.0, 1000.0); }
     void elementByOrientation() { checkElementByOrientation<LogarithmicAxis>(); }
     void polarChartDrawsNothing() { checkPolarChartDrawsNothing<LogarithmicAxis>(1.0, 1000.0); }
+    void hideOverlappingLabelsSignal() { checkHideOverlappingLabelsSignal<LogarithmicAxis>(); }
+    void shrinkingHidesOverlappingLabels_data() { alignmentRows(); }
+    void shrinkingHidesOverlappingLabels()
+    {
+        ko::qtToolkit::charts::LogarithmicAxisTicker ticker;
+        checkShrinkingHidesOverlappingLabels(new LogarithmicAxis, 1.0, 10000.0, &ticker);
+    }
+    void hidingOffKeepsOverlappingLabels_data() { alignmentRows(); }
+    void hidingOffKeepsOverlappingLabels()
+    {
+        ko::qtToolkit::charts::LogarithmicAxisTicker ticker;
+        checkHidingOffKeepsOverlappingLabels(new LogarithmicAxis, 1.0, 10000.0, &ticker);
+    }
 
     void isALogValueAxis()
     {

@@ -128,6 +128,34 @@ private Q_SLOTS:
         QCOMPARE(dialog.dynamicWidget(), nullptr);
     }
 
+    void forwardsReplaceOnFirstKey()
+    {
+        Keypad dialog;
+        auto *keypad = dialog.findChild<ko::qtToolkit::widget::Keypad *>();
+        QVERIFY(keypad);
+        QCOMPARE(dialog.replaceOnFirstKey(), false);
+        dialog.setReplaceOnFirstKey(true);
+        QCOMPARE(dialog.replaceOnFirstKey(), true);
+        QCOMPARE(keypad->replaceOnFirstKey(), true);
+        dialog.setReplaceOnFirstKey(false);
+        QCOMPARE(keypad->replaceOnFirstKey(), false);
+    }
+
+    void replaceOnFirstKeyAfterOK()
+    {
+        // The dialog stays open after OK when the application shows it without exec().
+        Keypad dialog;
+        dialog.setConstrainedRect(QRect(0, 0, 800, 600));
+        dialog.setReplaceOnFirstKey(true);
+        dialog.show();
+        dialog.setText(QStringLiteral("250.0"));
+        QVERIFY(clickKeypad(dialog, QStringLiteral("3")));
+        QCOMPARE(dialog.text(), QStringLiteral("3"));
+        QVERIFY(clickKeypad(dialog, QStringLiteral("OK")));
+        QVERIFY(clickKeypad(dialog, QStringLiteral("7")));
+        QCOMPARE(dialog.text(), QStringLiteral("7"));
+    }
+
     void forwardsToTheDraggable()
     {
         Keypad dialog;

@@ -4,6 +4,7 @@
 // class, fails here.
 
 #include <ko/qtToolkit/behavior/Draggable.h>
+#include <ko/qtToolkit/charts/AxisNotifier.h>
 #include <ko/qtToolkit/charts/AxisTicker.h>
 #include <ko/qtToolkit/charts/CustomAxisTicker.h>
 #include <ko/qtToolkit/charts/FrequencyAxis.h>
@@ -26,6 +27,7 @@
 #include <ko/qtToolkit/widget/GenericDataFader.h>
 #include <ko/qtToolkit/widget/Keypad.h>
 #include <ko/qtToolkit/widget/LevelMeter.h>
+#include <ko/qtToolkit/widget/LevelScale.h>
 #include <ko/qtToolkit/widget/ListWidget.h>
 #include <ko/qtToolkit/widget/TableWidget.h>
 #include <ko/qtToolkit/widget/TextEntry.h>
@@ -101,6 +103,7 @@ std::vector<Row> rows()
     return {
         row<behavior::Draggable, NoBase>("behavior::Draggable", OwnPointer),
 
+        row<charts::AxisNotifier, QObject>("charts::AxisNotifier", BasePointerOnly),
         row<charts::AxisTicker, VirtualRoot>("charts::AxisTicker", OwnPointer),
         row<charts::CustomAxisTicker, charts::AxisTicker>("charts::CustomAxisTicker", OwnPointer),
         row<charts::LogarithmicAxisTicker, charts::AxisTicker>("charts::LogarithmicAxisTicker", OwnPointer),
@@ -129,6 +132,7 @@ std::vector<Row> rows()
         row<widget::Keypad, QGroupBox>("widget::Keypad", OwnPointer),
         row<widget::LevelMeter, QProgressBar>("widget::LevelMeter", OwnPointer),
         row<widget::LevelMeterNotifier, QObject>("widget::LevelMeterNotifier", BasePointerOnly),
+        row<widget::LevelScale, QWidget>("widget::LevelScale", OwnPointer),
         row<widget::ListWidget, QListWidget>("widget::ListWidget", OwnPointer),
         row<widget::TableWidget, QTableWidget>("widget::TableWidget", OwnPointer),
         row<widget::TextEntry, QWidget>("widget::TextEntry", OwnPointer),

@@ -74,6 +74,32 @@ private Q_SLOTS:
         QCOMPARE(sharedKeypadDialog()->constrainedRect(), QRect(20, 30, 640, 480));
     }
 
+    void replaceOnFirstKey()
+    {
+        Keypad *keypad = Keypad::instance();
+        QCOMPARE(keypad->replaceOnFirstKey(), false);
+        keypad->setReplaceOnFirstKey(true);
+        QCOMPARE(keypad->replaceOnFirstKey(), true);
+        QCOMPARE(sharedKeypadDialog()->replaceOnFirstKey(), true);
+
+        // An entry showing 250.0 opens the keypad; the first key starts a new number.
+        ko::qtToolkit::widget::TextEntry entry;
+        entry.setText(QStringLiteral("250.0"));
+        keypad->setDynamicWidget(&entry);
+        KeypadDriver driver(*sharedKeypadDialog());
+        driver.then([&](ko::qtToolkit::dialog::Keypad &dialog) {
+            clickKeypad(dialog, QStringLiteral("3"));
+            clickKeypad(dialog, QStringLiteral("OK"));
+        });
+        QCOMPARE(keypad->exec(), int(QDialog::Accepted));
+        QCOMPARE(keypad->text(), QStringLiteral("3"));
+        QCOMPARE(entry.text(), QStringLiteral("3.00"));
+
+        keypad->setReplaceOnFirstKey(false);
+        keypad->setText(QStringLiteral("0"));
+        QCOMPARE(sharedKeypadDialog()->replaceOnFirstKey(), false);
+    }
+
     void execReturnsTheDialogsResult_data()
     {
         QTest::addColumn<QString>("finish");

@@ -1,5 +1,6 @@
 #include <ko/qtToolkit/widget/ElidedButton.h>
 
+#include <FullTextToolTipChecks.h>
 #include <TestSupport.h>
 
 #include <QFontMetrics>
@@ -278,6 +279,21 @@ private Q_SLOTS:
         QCOMPARE(m_style.contentsQueries, 1);
         QVERIFY(m_style.labels.isEmpty());
         QVERIFY(QTest::qWaitForWindowExposed(&button));
+    }
+
+    void fullTextIsTheToolTipWhileCut()
+    {
+        ko::qtToolkit::test::checkToolTipFollowsElision<ElidedButton>(longText);
+    }
+
+    void applicationToolTipIsKept()
+    {
+        ko::qtToolkit::test::checkApplicationToolTipIsKept<ElidedButton>(longText);
+    }
+
+    void pressAndHoldShowsTheFullText()
+    {
+        ko::qtToolkit::test::checkPressAndHoldShowsToolTip<ElidedButton>(longText);
     }
 
 private:

@@ -1,5 +1,6 @@
 #include <ko/qtToolkit/widget/ElidedLabel.h>
 
+#include <FullTextToolTipChecks.h>
 #include <TestSupport.h>
 
 #include <QFontMetrics>
@@ -257,6 +258,36 @@ private Q_SLOTS:
             QCoreApplication::processEvents();
         QCOMPARE(counter.paints, painted);
         QCOMPARE(label->text(), longText);
+    }
+
+    void fullTextIsTheToolTipWhileCut()
+    {
+        ko::qtToolkit::test::checkToolTipFollowsElision<ElidedLabel>(longText);
+    }
+
+    void applicationToolTipIsKept()
+    {
+        ko::qtToolkit::test::checkApplicationToolTipIsKept<ElidedLabel>(longText);
+    }
+
+    void pressAndHoldShowsTheFullText()
+    {
+        ko::qtToolkit::test::checkPressAndHoldShowsToolTip<ElidedLabel>(longText);
+    }
+
+    void elideNoneHasNoToolTip()
+    {
+        ElidedLabel label(longText);
+        ko::qtToolkit::test::paintAtWidth(label, ko::qtToolkit::test::narrowWidth);
+        QCOMPARE(label.toolTip(), longText);
+        label.setElideMode(Qt::ElideNone);
+        QVERIFY(label.toolTip().isEmpty());
+        label.grab();
+        label.updateCache();
+        QVERIFY(label.toolTip().isEmpty());
+        label.setElideMode(Qt::ElideLeft);
+        label.grab();
+        QCOMPARE(label.toolTip(), longText);
     }
 };
 

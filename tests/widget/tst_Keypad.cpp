@@ -620,6 +620,214 @@ private Q_SLOTS:
         QCOMPARE(window.keys, QList<int>({Qt::Key_5, Qt::Key_A}));
         QCOMPARE(keypad->text(), QStringLiteral("5"));
     }
+
+    void replaceOnFirstKeyIsOffByDefault()
+    {
+        QWidget window;
+        auto *keypad = new Keypad(&window);
+        QCOMPARE(keypad->replaceOnFirstKey(), false);
+        window.show();
+        press(*keypad, {QStringLiteral("1")}, Input::Buttons);
+        keypad->setText(QStringLiteral("250.0"));
+        QVERIFY(!display(*keypad)->hasSelectedText());
+        QCOMPARE(press(*keypad, {QStringLiteral("3")}, Input::Buttons), QStringList{QStringLiteral("250.03")});
+    }
+
+    void replaceOnFirstKey_data()
+    {
+        QTest::addColumn<QString>("start");
+        QTest::addColumn<QStringList>("keys");
+        QTest::addColumn<QStringList>("texts");
+
+        const auto keys = [](const char *spaced) { return QString::fromLatin1(spaced).split(QLatin1Char(' ')); };
+
+        QTest::newRow("digit replaces the text") << QStringLiteral("250.0") << keys("3 5") << keys("3 35");
+        QTest::newRow("point replaces the text") << QStringLiteral("250.0") << keys(". 5") << keys(". .5");
+        QTest::newRow("minus replaces the text") << QStringLiteral("250.0") << keys("- 5") << keys("- -5");
+        QTest::newRow("zero replaces the text") << QStringLiteral("250.0") << keys("0 5") << keys("0 5");
+        QTest::newRow("backspace edits the text") << QStringLiteral("250.0") << keys("DEL 5") << keys("250. 250.5");
+        QTest::newRow("K multiplies the text") << QStringLiteral("12") << keys("K 5") << keys("12000 120005");
+        QTest::newRow("escape keeps waiting") << QStringLiteral("250.0") << keys("Escape 3") << keys("250.0 3");
+        QTest::newRow("OK waits again") << QStringLiteral("12") << keys("OK 7 7") << keys("12 7 77");
+        QTest::newRow("OK after typing waits again") << QStringLiteral("12") << keys("4 OK 5 6") << keys("4 4 5 56");
+        QTest::newRow("empty text") << QString() << keys("5 5") << keys("5 55");
+    }
+
+    void replaceOnFirstKey()
+    {
+        QFETCH(QString, start);
+        QFETCH(QStringList, keys);
+        QFETCH(QStringList, texts);
+
+        for (const Input input : {Input::Buttons, Input::Keyboard}) {
+            QWidget window;
+            auto *keypad = new Keypad(&window);
+            keypad->setReplaceOnFirstKey(true);
+            window.show();
+            // The keypad was shown first: only the text it receives makes it wait.
+            QCOMPARE(press(*keypad, {QStringLiteral("1")}, input), QStringList{QStringLiteral("1")});
+            keypad->setText(start);
+            QCOMPARE(press(*keypad, keys, input), texts);
+        }
+    }
+
+    void replaceOnFirstKeySelectsTheWaitingText()
+    {
+        QWidget window;
+        auto *keypad = new Keypad(&window);
+        keypad->setReplaceOnFirstKey(true);
+        QCOMPARE(keypad->replaceOnFirstKey(), true);
+        window.show();
+        QLineEdit *line = display(*keypad);
+
+        keypad->setText(QStringLiteral("250.0"));
+        QCOMPARE(line->selectedText(), QStringLiteral("250.0"));
+        press(*keypad, {QStringLiteral("Escape")}, Input::Keyboard);
+        QCOMPARE(line->selectedText(), QStringLiteral("250.0"));
+        press(*keypad, {QStringLiteral("3")}, Input::Buttons);
+        QVERIFY(!line->hasSelectedText());
+        press(*keypad, {QStringLiteral("OK")}, Input::Buttons);
+        QCOMPARE(line->selectedText(), QStringLiteral("3"));
+        press(*keypad, {QStringLiteral("DEL")}, Input::Buttons);
+        QVERIFY(!line->hasSelectedText());
+
+        // Turning it off ends the wait and the selection; the usual rules apply.
+        keypad->setText(QStringLiteral("12"));
+        QVERIFY(line->hasSelectedText());
+        keypad->setReplaceOnFirstKey(false);
+        QCOMPARE(keypad->replaceOnFirstKey(), false);
+        QVERIFY(!line->hasSelectedText());
+        QCOMPARE(press(*keypad, {QStringLiteral("5")}, Input::Buttons), QStringList{QStringLiteral("125")});
+    }
+
+    void replaceOnFirstKeyAfterShow()
+    {
+        QWidget window;
+        auto *keypad = new Keypad(&window);
+        keypad->setText(QStringLiteral("12"));
+        keypad->setReplaceOnFirstKey(true);
+        // The keypad starts a new number after construction anyway: the text is selected at once.
+        QCOMPARE(display(*keypad)->selectedText(), QStringLiteral("12"));
+        window.show();
+        QCOMPARE(display(*keypad)->selectedText(), QStringLiteral("12"));
+        QCOMPARE(press(*keypad, QStringList{QStringLiteral("K"), QStringLiteral("5")}, Input::Buttons),
+                 QStringList({QStringLiteral("12000"), QStringLiteral("120005")}));
+        window.hide();
+        window.show();
+        QCOMPARE(display(*keypad)->selectedText(), QStringLiteral("120005"));
+        QCOMPARE(press(*keypad, {QStringLiteral("7")}, Input::Buttons), QStringList{QStringLiteral("7")});
+    }
+
+    void replaceOnFirstKeyWithADynamicWidget()
+    {
+        QWidget window;
+        auto *keypad = new Keypad(&window);
+        keypad->setReplaceOnFirstKey(true);
+        window.show();
+        press(*keypad, {QStringLiteral("1")}, Input::Buttons);
+
+        ko::qtToolkit::common::DoubleValidator validator(0.0, 50.0, 1);
+        TextEntry entry;
+        entry.setValidator(&validator);
+        entry.setText(QStringLiteral("25.5"));
+        QSignalSpy updated(keypad, &Keypad::valueUpdated);
+        QSignalSpy accepted(keypad, &Keypad::accepted);
+        keypad->setDynamicWidget(&entry);
+        QCOMPARE(display(*keypad)->selectedText(), QStringLiteral("25.5"));
+        QCOMPARE(fader(*keypad)->getData(), 25.5f);
+
+        // A finger on the fader rewrites the waiting text, which stays selected.
+        fader(*keypad)->setData(30.0f);
+        QCOMPARE(updated.count(), 1);
+        QCOMPARE(display(*keypad)->selectedText(), QStringLiteral("30.0"));
+
+        QCOMPARE(press(*keypad, QStringList{QStringLiteral("4"), QStringLiteral("OK")}, Input::Buttons),
+                 QStringList({QStringLiteral("4"), QStringLiteral("4")}));
+        QCOMPARE(updated.count(), 2);
+        QCOMPARE(accepted.count(), 1);
+        QCOMPARE(fader(*keypad)->getData(), 4.0f);
+        QCOMPARE(display(*keypad)->selectedText(), QStringLiteral("4"));
+    }
+
+    void replaceOnFirstKeySignals()
+    {
+        QWidget window;
+        auto *keypad = new Keypad(&window);
+        keypad->setReplaceOnFirstKey(true);
+        window.show();
+        keypad->setText(QStringLiteral("250.0"));
+        QSignalSpy updated(keypad, &Keypad::valueUpdated);
+        QSignalSpy accepted(keypad, &Keypad::accepted);
+        QSignalSpy rejected(keypad, &Keypad::rejected);
+        press(*keypad, QStringList{QStringLiteral("Escape"), QStringLiteral("3"), QStringLiteral("OK")}, Input::Keyboard);
+        QCOMPARE(rejected.count(), 1);
+        QCOMPARE(updated.count(), 1);
+        QCOMPARE(accepted.count(), 1);
+        QCOMPARE(keypad->text(), QStringLiteral("3"));
+        QCOMPARE(fader(*keypad)->getData(), 3.0f);
+    }
+
+    void replaceOnFirstKeyPaintsTheSelection()
+    {
+        QWidget window;
+        auto *keypad = new Keypad(&window);
+        window.resize(300, 300);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QLineEdit *line = display(*keypad);
+        keypad->setText(QStringLiteral("250.0"));
+        const QImage plain = line->grab().toImage();
+
+        const auto hasHighlight = [line](const QImage &image) {
+            const QRgb active = line->palette().color(QPalette::Active, QPalette::Highlight).rgb();
+            const QRgb inactive = line->palette().color(QPalette::Inactive, QPalette::Highlight).rgb();
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x) {
+                    const QRgb pixel = image.pixel(x, y) | 0xff000000u;
+                    if (pixel == active || pixel == inactive)
+                        return true;
+                }
+            }
+            return false;
+        };
+        QVERIFY(!hasHighlight(plain));
+
+        keypad->setReplaceOnFirstKey(true);
+        keypad->setText(QStringLiteral("250.0"));
+        const QImage waiting = line->grab().toImage();
+        QVERIFY(hasHighlight(waiting));
+        QVERIFY(waiting != plain);
+
+        // Off again, the display paints as it did.
+        keypad->setReplaceOnFirstKey(false);
+        QCOMPARE(line->grab().toImage(), plain);
+    }
+
+    void keysHaveAccessibleNames_data()
+    {
+        QTest::addColumn<QString>("label");
+        QTest::addColumn<QString>("name");
+        for (char digit = '0'; digit <= '9'; ++digit) {
+            const QString d(QLatin1Char{digit});
+            QTest::newRow(qPrintable(d)) << d << d;
+        }
+        QTest::newRow("DEL") << QStringLiteral("DEL") << QStringLiteral("Backspace");
+        QTest::newRow("OK") << QStringLiteral("OK") << QStringLiteral("Enter");
+        QTest::newRow("K") << QStringLiteral("K") << QStringLiteral("Thousands");
+        QTest::newRow(".") << QStringLiteral(".") << QStringLiteral("Decimal point");
+        QTest::newRow("-") << QStringLiteral("-") << QStringLiteral("Minus");
+    }
+
+    void keysHaveAccessibleNames()
+    {
+        QFETCH(QString, label);
+        QFETCH(QString, name);
+        Keypad keypad;
+        QPushButton *button = keypadButton(keypad, label);
+        QVERIFY(button);
+        QCOMPARE(button->accessibleName(), name);
+        QCOMPARE(button->text(), label);
+    }
 };
 
 QTEST_MAIN(tst_Keypad)

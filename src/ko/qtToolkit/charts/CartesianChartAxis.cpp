@@ -183,6 +183,42 @@ Side sideOf(const Frame &frame, const QtCharts::QAbstractAxis &axis, const QRect
     return {};
 }
 
+// The boxes of the labels kept so far, ordered by where they start along the axis. A new box is
+// compared only with the kept boxes that start before it ends and, given the longest kept box,
+// may reach it: one step or two per label, as labels follow each other along the axis.
+class KeptLabelBoxes
+{
+public:
+    explicit KeptLabelBoxes(Qt::Orientation orientation)
+        : m_frame(orientation)
+    {
+    }
+
+    // Keeps \a box unless it intersects a kept box; whether it was kept.
+    bool keep(const QRectF &box)
+    {
+        const qreal start = m_frame.start(box);
+        const qreal end = m_frame.end(box);
+        const auto startsBefore = [this](const QRectF &kept, qreal value) { return m_frame.start(kept) < value; };
+        const auto after = std::lower_bound(m_boxes.begin(), m_boxes.end(), end, startsBefore);
+        for (auto it = after; it != m_boxes.begin();) {
+            --it;
+            if (m_frame.start(*it) + m_longest <= start)
+                break;
+            if (it->intersects(box))
+                return false;
+        }
+        m_boxes.insert(std::lower_bound(m_boxes.begin(), after, start, startsBefore), box);
+        m_longest = std::max(m_longest, end - start);
+        return true;
+    }
+
+private:
+    const Frame m_frame;
+    QVector<QRectF> m_boxes;
+    qreal m_longest = 0.0;
+};
+
 } // namespace
 
 CartesianChartAxis::CartesianChartAxis(Qt::Orientation orientation, QtCharts::QAbstractAxis *axis,
@@ -204,6 +240,13 @@ CartesianChartAxis::CartesianChartAxis(Qt::Orientation orientation, QtCharts::QA
         for (QGraphicsItem *item : minorLabelItems())
             item->setRotation(angle);
     });
+    // Which labels overlap depends on the placed labels only: switching the hiding on or off, or
+    // showing the labels again, needs no new layout pass.
+    if (TickedAxisState *state = tickedAxisState(*axis)) {
+        connect(state->notifier(axis), &AxisNotifier::hideOverlappingLabelsChanged, this,
+                &CartesianChartAxis::updateLabelOverlaps);
+    }
+    connect(axis, &QtCharts::QAbstractAxis::labelsVisibleChanged, this, &CartesianChartAxis::updateLabelOverlaps);
     m_minorLabelGroup->setZValue(minorLabelZValue);
     m_minorLabelGroup->setVisible(axis->isVisible() && minorLabelsVisible());
 }
@@ -263,6 +306,7 @@ void CartesianChartAxis::handleVisibleChanged(bool visible)
     m_minorLabelGroup->setVisible(visible && minorLabelsVisible());
     if (minorLabelsShown() && !m_minorLabelsLaidOut)
         layoutMinorLabels();
+    updateLabelOverlaps();
 }
 
 void CartesianChartAxis::handleMinorLabelsVisibleChanged(bool visible)
@@ -275,6 +319,7 @@ void CartesianChartAxis::handleMinorLabelsVisibleChanged(bool visible)
     m_minorLabelGroup->setVisible(visible && axis()->isVisible());
     if (minorLabelsShown() && !m_minorLabelsLaidOut)
         layoutMinorLabels();
+    updateLabelOverlaps();
 }
 
 void CartesianChartAxis::handleMinorLabelsColorChanged(QColor color)
@@ -433,6 +478,7 @@ void CartesianChartAxis::updateGeometry()
                    static_cast<QGraphicsLineItem *>(minorArrows.at(j)), label, m_minorLabels.at(j),
                    m_minorTickValues.at(j), minorLimit);
     }
+    updateLabelOverlaps();
 }
 
 qreal CartesianChartAxis::layoutTitle(qreal availableSpace)
@@ -524,6 +570,43 @@ void CartesianChartAxis::layoutMinorLabels()
                     tickPosition(m_minorTickValues.at(j)), m_minorLabelLimit);
     }
     m_minorLabelsLaidOut = true;
+}
+
+void CartesianChartAxis::updateLabelOverlaps()
+{
+    const TickedAxisState *state = tickedAxisState(*axis());
+    if (state && state->hideOverlappingLabels) {
+        hideOverlappingLabels();
+        return;
+    }
+    if (!m_overlappingLabelsHidden)
+        return;
+    for (QGraphicsItem *label : labelItems())
+        label->setVisible(true);
+    for (QGraphicsItem *label : minorLabelItems())
+        label->setVisible(true);
+    m_overlappingLabelsHidden = false;
+}
+
+void CartesianChartAxis::hideOverlappingLabels()
+{
+    KeptLabelBoxes kept(m_orientation);
+    bool hidden = false;
+    // A label the axis does not show, or one without text, neither hides another nor is hidden.
+    const auto keepOrHide = [&](QGraphicsItem *label, bool shown) {
+        const bool visible = !shown || label->data(shownTextKey).toString().isEmpty()
+                             || kept.keep(label->sceneBoundingRect());
+        label->setVisible(visible);
+        hidden = hidden || !visible;
+    };
+    const bool majorShown = labelGroup()->isVisible();
+    for (QGraphicsItem *label : labelItems())
+        keepOrHide(label, majorShown);
+    // Minor labels skipped while hidden are laid out before they are shown.
+    const bool minorShown = m_minorLabelsLaidOut && m_minorLabelGroup->isVisible();
+    for (QGraphicsItem *label : minorLabelItems())
+        keepOrHide(label, minorShown);
+    m_overlappingLabelsHidden = hidden;
 }
 
 qreal CartesianChartAxis::tickPosition(qreal value) const

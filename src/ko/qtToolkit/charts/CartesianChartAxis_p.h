@@ -119,6 +119,13 @@ private:
     /// Lays out the minor labels that the last pass skipped while they were hidden.
     void layoutMinorLabels();
 
+    /// Hides the labels that overlap labels kept before them while the axis asks for it, and
+    /// shows them all again once it no longer does.
+    void updateLabelOverlaps();
+    /// Keeps the shown labels with text, major before minor, each in tick order, as long as their
+    /// boxes intersect none kept before; hides the others.
+    void hideOverlappingLabels();
+
     /// Places the title across the axis from the plot; what room it leaves for the labels of
     /// \a availableSpace.
     qreal layoutTitle(qreal availableSpace);
@@ -192,6 +199,8 @@ private:
     // The room of each minor label in the last pass, and whether that pass laid them out.
     QSizeF m_minorLabelLimit;
     bool m_minorLabelsLaidOut = true;
+    // Whether some label is hidden for overlapping another.
+    bool m_overlappingLabelsHidden = false;
     // Filled by calculateLayout(), which the base declares const.
     mutable QVector<qreal> m_majorTickValues;
     mutable QVector<qreal> m_minorTickValues;

@@ -51,4 +51,19 @@ void LinearAxis::setMinorLabelsColor(const QColor &color)
         Q_EMIT minorLabelsColorChanged(color);
 }
 
+bool LinearAxis::hideOverlappingLabels() const
+{
+    return d_func()->hideOverlappingLabels;
+}
+
+void LinearAxis::setHideOverlappingLabels(bool hide)
+{
+    d_func()->setHideOverlappingLabels(hide);
+}
+
+AxisNotifier *LinearAxis::notifier() const
+{
+    return const_cast<LinearAxisPrivate *>(d_func())->notifier(const_cast<LinearAxis *>(this));
+}
+
 } // namespace ko::qtToolkit::charts

@@ -9,6 +9,7 @@
 
 namespace ko::qtToolkit::charts {
 
+class AxisNotifier;
 class AxisTicker;
 class LinearAxisPrivate;
 
@@ -56,6 +57,27 @@ public:
     QColor minorLabelsColor() const;
     /// Gives the minor labels, shown ones included, the colour \a color.
     void setMinorLabelsColor(const QColor &color);
+
+    /// Whether labels that would overlap other labels are hidden; false by default.
+    bool hideOverlappingLabels() const;
+    /**
+     * \brief Hides, at every layout pass, each label that would overlap a label already kept.
+     *
+     * With \a hide true, labels are kept in this order: the major labels, then the minor labels,
+     * each in tick order from the lower end of the range. A label whose box would intersect that
+     * of a label kept before it is hidden; labels without text take no part. Tick marks and grid
+     * lines stay. Labels the axis does not show (its labels or minor labels hidden) neither
+     * hide nor are hidden. With \a hide false (the default) every label is shown, overlapping
+     * or not, and the label width limit alone keeps them apart.
+     *
+     * Takes effect at once on a laid-out axis, and at every later layout pass. A change is
+     * signalled by notifier().
+     */
+    void setHideOverlappingLabels(bool hide);
+
+    /// The object that signals changes of hideOverlappingLabels(), made on first use and owned
+    /// by the axis.
+    AxisNotifier *notifier() const;
 
 Q_SIGNALS:
     /// The minor labels were shown or hidden.

@@ -51,4 +51,19 @@ void LogarithmicAxis::setMinorLabelsColor(const QColor &color)
         Q_EMIT minorLabelsColorChanged(color);
 }
 
+bool LogarithmicAxis::hideOverlappingLabels() const
+{
+    return d_func()->hideOverlappingLabels;
+}
+
+void LogarithmicAxis::setHideOverlappingLabels(bool hide)
+{
+    d_func()->setHideOverlappingLabels(hide);
+}
+
+AxisNotifier *LogarithmicAxis::notifier() const
+{
+    return const_cast<LogarithmicAxisPrivate *>(d_func())->notifier(const_cast<LogarithmicAxis *>(this));
+}
+
 } // namespace ko::qtToolkit::charts

@@ -9,6 +9,7 @@
 
 namespace ko::qtToolkit::charts {
 
+class AxisNotifier;
 class AxisTicker;
 class LogarithmicAxisPrivate;
 
@@ -44,6 +45,12 @@ public:
     QColor minorLabelsColor() const;
     /// \copydoc LinearAxis::setMinorLabelsColor()
     void setMinorLabelsColor(const QColor &color);
+    /// \copydoc LinearAxis::hideOverlappingLabels()
+    bool hideOverlappingLabels() const;
+    /// \copydoc LinearAxis::setHideOverlappingLabels()
+    void setHideOverlappingLabels(bool hide);
+    /// \copydoc LinearAxis::notifier()
+    AxisNotifier *notifier() const;
 
 Q_SIGNALS:
     /// \copydoc LinearAxis::minorLabelsVisibleChanged()

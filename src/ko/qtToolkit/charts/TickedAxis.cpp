@@ -11,6 +11,29 @@ namespace ko::qtToolkit::charts {
 
 TickedAxisState::~TickedAxisState() = default;
 
+AxisNotifier *TickedAxisState::notifier(QObject *axis)
+{
+    if (axisNotifier == nullptr)
+        axisNotifier = new AxisNotifier(axis);
+    return axisNotifier;
+}
+
+void TickedAxisState::setHideOverlappingLabels(bool hide)
+{
+    if (hideOverlappingLabels == hide)
+        return;
+    hideOverlappingLabels = hide;
+    if (axisNotifier != nullptr)
+        Q_EMIT axisNotifier->hideOverlappingLabelsChanged(hide);
+}
+
+AxisNotifier::AxisNotifier(QObject *parent)
+    : QObject(parent)
+{
+}
+
+AxisNotifier::~AxisNotifier() = default;
+
 TickedAxisState *tickedAxisState(const QtCharts::QAbstractAxis &axis)
 {
     // Both of the library's axis classes keep a TickedAxisPrivate as Qt Charts' private part.

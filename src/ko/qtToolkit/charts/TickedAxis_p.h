@@ -1,6 +1,7 @@
 #ifndef KO_QTTOOLKIT_CHARTS_TICKEDAXIS_P_H
 #define KO_QTTOOLKIT_CHARTS_TICKEDAXIS_P_H
 
+#include <ko/qtToolkit/charts/AxisNotifier.h>
 #include <ko/qtToolkit/charts/AxisTicker.h>
 #include <ko/qtToolkit/charts/CartesianChartAxis_p.h>
 
@@ -11,8 +12,9 @@
 namespace ko::qtToolkit::charts {
 
 /**
- * \brief What the library's own axes keep beside Qt Charts' state: the ticker and the minor
- *        labels' settings, with the range and label format the ticker works on.
+ * \brief What the library's own axes keep beside Qt Charts' state: the ticker, the minor
+ *        labels' settings and whether overlapping labels are hidden, with the range and label
+ *        format the ticker works on.
  */
 class KO_QTTOOLKIT_EXPORT TickedAxisState
 {
@@ -43,10 +45,18 @@ public:
         return true;
     }
 
+    /// The axis's notifier, made on first use as a child of \a axis.
+    AxisNotifier *notifier(QObject *axis);
+
+    /// Stores \a hide and signals a change through the notifier, if one was made.
+    void setHideOverlappingLabels(bool hide);
+
     AxisTicker defaultTicker;
     AxisTicker *currentTicker = &defaultTicker;
     bool minorLabelsVisible = true;
     QBrush minorLabelsBrush = QtCharts::QChartPrivate::defaultBrush();
+    bool hideOverlappingLabels = false;
+    AxisNotifier *axisNotifier = nullptr;
 };
 
 /**

@@ -52,6 +52,11 @@ public:
     /// \brief See widget::Keypad::dynamicWidget().
     widget::TextEntry *dynamicWidget() const;
 
+    /// \brief See widget::Keypad::setReplaceOnFirstKey().
+    void setReplaceOnFirstKey(bool replace);
+    /// \brief See widget::Keypad::replaceOnFirstKey().
+    bool replaceOnFirstKey() const;
+
     /// \brief See widget::Keypad::setMinimumData().
     void setMinimumData(float minimum);
     /// \brief See widget::Keypad::setMaximumData().

@@ -46,6 +46,16 @@ widget::TextEntry *Keypad::dynamicWidget() const
     return d->keypad.dynamicWidget();
 }
 
+void Keypad::setReplaceOnFirstKey(bool replace)
+{
+    d->keypad.setReplaceOnFirstKey(replace);
+}
+
+bool Keypad::replaceOnFirstKey() const
+{
+    return d->keypad.replaceOnFirstKey();
+}
+
 void Keypad::setConstrainedRect(const QRect &rect)
 {
     d->keypad.setConstrainedRect(rect);

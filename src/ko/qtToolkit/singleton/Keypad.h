@@ -53,6 +53,11 @@ public:
     /// \brief See dialog::Keypad::dynamicWidget().
     widget::TextEntry *dynamicWidget() const;
 
+    /// \brief See dialog::Keypad::setReplaceOnFirstKey().
+    void setReplaceOnFirstKey(bool replace);
+    /// \brief See dialog::Keypad::replaceOnFirstKey().
+    bool replaceOnFirstKey() const;
+
     /// \brief See dialog::Keypad::setConstrainedRect().
     void setConstrainedRect(const QRect &rect);
     /// \brief See dialog::Keypad::constrainedRect().

@@ -1,5 +1,7 @@
 #include <ko/qtToolkit/widget/ElidedButton.h>
 
+#include <ko/qtToolkit/widget/FullTextToolTip_p.h>
+
 #include <QEvent>
 #include <QFontMetrics>
 #include <QPainter>
@@ -11,26 +13,32 @@ namespace ko::qtToolkit::widget {
 class ElidedButtonPrivate
 {
 public:
+    explicit ElidedButtonPrivate(QWidget &button)
+        : toolTip(button)
+    {
+    }
+
     int cachedWidth = -1;
     QString sourceText;
     QString elidedText;
+    FullTextToolTip toolTip;
 };
 
 ElidedButton::ElidedButton(QWidget *parent)
     : Button(parent)
-    , d(std::make_unique<ElidedButtonPrivate>())
+    , d(std::make_unique<ElidedButtonPrivate>(*this))
 {
 }
 
 ElidedButton::ElidedButton(const QString &text, QWidget *parent)
     : Button(text, parent)
-    , d(std::make_unique<ElidedButtonPrivate>())
+    , d(std::make_unique<ElidedButtonPrivate>(*this))
 {
 }
 
 ElidedButton::ElidedButton(const QIcon &icon, const QString &text, QWidget *parent)
     : Button(icon, text, parent)
-    , d(std::make_unique<ElidedButtonPrivate>())
+    , d(std::make_unique<ElidedButtonPrivate>(*this))
 {
 }
 
@@ -48,6 +56,7 @@ void ElidedButton::updateElidedText()
     const QRect contents = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
     d->elidedText = QFontMetrics(font()).elidedText(d->sourceText, Qt::ElideRight,
                                                    contents.width() - iconSize().width() - 4, Qt::TextShowMnemonic);
+    d->toolTip.update(d->elidedText != d->sourceText, d->sourceText);
 }
 
 bool ElidedButton::event(QEvent *e)

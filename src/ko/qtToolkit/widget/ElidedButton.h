@@ -20,6 +20,11 @@ class ElidedButtonPrivate;
  *
  * The button body is painted from the widget's basic state only (enabled, hover, palette):
  * a checked or pressed ElidedButton looks like a released one.
+ *
+ * While the caption is cut, the full text is the button's tool tip (and, as text() is the full
+ * text, its accessible name); a press and hold on a touch screen shows that tool tip. The tool
+ * tip goes when the caption fits again. A tool tip the application sets is never changed: the
+ * button sets its own only while the application's is empty.
  */
 class KO_QTTOOLKIT_EXPORT ElidedButton : public Button
 {

@@ -1,5 +1,7 @@
 #include <ko/qtToolkit/widget/ElidedLabel.h>
 
+#include <ko/qtToolkit/widget/FullTextToolTip_p.h>
+
 #include <QFontMetrics>
 
 namespace ko::qtToolkit::widget {
@@ -7,20 +9,26 @@ namespace ko::qtToolkit::widget {
 class ElidedLabelPrivate
 {
 public:
+    explicit ElidedLabelPrivate(QWidget &label)
+        : toolTip(label)
+    {
+    }
+
     Qt::TextElideMode elideMode = Qt::ElideRight;
     QString elidedText;
     QString sourceText; // null while elidedText is out of date
+    FullTextToolTip toolTip;
 };
 
 ElidedLabel::ElidedLabel(QWidget *parent, Qt::WindowFlags f)
     : QLabel(parent, f)
-    , d(std::make_unique<ElidedLabelPrivate>())
+    , d(std::make_unique<ElidedLabelPrivate>(*this))
 {
 }
 
 ElidedLabel::ElidedLabel(const QString &text, QWidget *parent, Qt::WindowFlags f)
     : QLabel(text, parent, f)
-    , d(std::make_unique<ElidedLabelPrivate>())
+    , d(std::make_unique<ElidedLabelPrivate>(*this))
 {
 }
 
@@ -32,6 +40,9 @@ void ElidedLabel::setElideMode(Qt::TextElideMode mode)
     // width afresh.
     d->elideMode = mode;
     d->sourceText = QString();
+    // Without elision nothing is cut and updateCache() is not called on paint.
+    if (mode == Qt::ElideNone)
+        d->toolTip.update(false, text());
     update();
 }
 
@@ -50,6 +61,7 @@ void ElidedLabel::updateCache()
     const QFontMetrics metrics(font());
     // 4 pixels of inner allowance keep the last glyph off the label's edge.
     d->elidedText = metrics.elidedText(d->sourceText, d->elideMode, width() - 4, Qt::TextShowMnemonic);
+    d->toolTip.update(d->elideMode != Qt::ElideNone && d->elidedText != d->sourceText, d->sourceText);
     if (d->sourceText.isEmpty())
         return;
 

@@ -19,6 +19,11 @@ class ElidedLabelPrivate;
  * label's minimum width is about one character and an ellipsis, so that layouts can shrink it
  * that far and no further. The shortened text is recomputed when the text, the width or the
  * elide mode changed; a font change alone does not trigger it.
+ *
+ * While the shown text is cut, the full text is the label's tool tip (and, as text() is the
+ * full text, its accessible name); a press and hold on a touch screen shows that tool tip. The
+ * tool tip goes when the text fits again. A tool tip the application sets is never changed:
+ * the label sets its own only while the application's is empty.
  */
 class KO_QTTOOLKIT_EXPORT ElidedLabel : public QLabel
 {

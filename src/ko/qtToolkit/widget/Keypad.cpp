@@ -55,6 +55,25 @@ QString label(int code)
     }
 }
 
+// What a key means, for assistive technology: the labels "DEL", "OK" and "K" are shorthand.
+QString accessibleName(int code)
+{
+    switch (code) {
+    case Qt::Key_Backspace:
+        return QStringLiteral("Backspace");
+    case Qt::Key_K:
+        return QStringLiteral("Thousands");
+    case Qt::Key_Enter:
+        return QStringLiteral("Enter");
+    case Qt::Key_Comma:
+        return QStringLiteral("Decimal point");
+    case Qt::Key_Minus:
+        return QStringLiteral("Minus");
+    default:
+        return label(code);
+    }
+}
+
 // The keys the handler knows, with synonyms folded together; 0 for every other key.
 int normalised(int key)
 {
@@ -85,6 +104,13 @@ bool isCharacterKey(int key)
            || key == Qt::Key_K;
 }
 
+// The keys that begin a new number when the keypad replaces on the first key; "K" multiplies
+// the number shown, as Backspace edits it.
+bool startsNumber(int key)
+{
+    return (key >= Qt::Key_0 && key <= Qt::Key_9) || key == Qt::Key_Comma || key == Qt::Key_Minus;
+}
+
 } // namespace
 
 class KeypadPrivate : public QObject
@@ -96,12 +122,15 @@ public:
 
     void keyPressed(int key);
     void faderDataChanged(float value);
+    void awaitFirstKey();
 
     Keypad *const q;
     QLineEdit *const display;
     QHash<int, Button *> buttons;
     GenericDataFader *fader = nullptr;
     bool replaceNext = true;
+    bool replaceOnFirstKey = false;
+    bool awaitingFirstKey = false; // only while replaceOnFirstKey: the display's text is selected
     QPointer<TextEntry> dynamicWidget;
 };
 
@@ -116,6 +145,7 @@ KeypadPrivate::KeypadPrivate(Keypad *keypad)
     for (const Key &key : keys) {
         auto *button = new Button(label(key.code), q);
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+        button->setAccessibleName(accessibleName(key.code));
         const int code = key.code;
         QObject::connect(button, &QPushButton::clicked, this, [this, code] { keyPressed(code); });
         buttons.insert(code, button);
@@ -140,6 +170,7 @@ bool KeypadPrivate::eventFilter(QObject *watched, QEvent *event)
     case QEvent::ShowToParent:
         q->setFocus();
         replaceNext = true;
+        awaitFirstKey();
         break;
     case QEvent::KeyPress:
         // A hardware keyboard works like the keys; the event still reaches the keypad.
@@ -157,7 +188,15 @@ void KeypadPrivate::keyPressed(int pressed)
     if (key == 0)
         return;
 
-    if (replaceNext) {
+    if (replaceOnFirstKey) {
+        // Escape leaves the received text waiting for its first key.
+        replaceNext = false;
+        if (awaitingFirstKey && key != Qt::Key_Escape) {
+            awaitingFirstKey = false;
+            if (startsNumber(key))
+                display->clear();
+        }
+    } else if (replaceNext) {
         replaceNext = false;
         if (isCharacterKey(key))
             display->clear();
@@ -206,12 +245,26 @@ void KeypadPrivate::keyPressed(int pressed)
     // wrote: a receiver that reads text() during valueUpdated() or accepted() sees the clamped
     // value.
     display->setText(text);
+    if (key == Qt::Key_Enter)
+        awaitFirstKey();
+    else if (awaitingFirstKey)
+        display->selectAll();
 }
 
 void KeypadPrivate::faderDataChanged(float value)
 {
     display->setText(QString::number(value, 'f', int(fader->getNumberOfDecimals())));
+    if (awaitingFirstKey)
+        display->selectAll();
     Q_EMIT q->valueUpdated();
+}
+
+void KeypadPrivate::awaitFirstKey()
+{
+    if (!replaceOnFirstKey)
+        return;
+    awaitingFirstKey = true;
+    display->selectAll();
 }
 
 Keypad::Keypad(QWidget *parent)
@@ -236,6 +289,7 @@ void Keypad::setText(const QString &text)
     d->display->setText(text);
     d->fader->hide();
     d->dynamicWidget = nullptr;
+    d->awaitFirstKey();
 }
 
 QString Keypad::text() const
@@ -261,11 +315,31 @@ void Keypad::setDynamicWidget(TextEntry *entry)
         d->fader->setMaximumData(float(validator->top()));
     }
     d->fader->setData(text.toFloat());
+    d->awaitFirstKey();
 }
 
 TextEntry *Keypad::dynamicWidget() const
 {
     return d->dynamicWidget;
+}
+
+void Keypad::setReplaceOnFirstKey(bool replace)
+{
+    if (d->replaceOnFirstKey == replace)
+        return;
+    d->replaceOnFirstKey = replace;
+    // A keypad that was going to start a new number anyway now shows it.
+    if (replace && d->replaceNext)
+        d->awaitFirstKey();
+    if (!replace && d->awaitingFirstKey) {
+        d->awaitingFirstKey = false;
+        d->display->deselect();
+    }
+}
+
+bool Keypad::replaceOnFirstKey() const
+{
+    return d->replaceOnFirstKey;
 }
 
 void Keypad::setMinimumData(float minimum)

@@ -58,6 +58,25 @@ public:
     /// \brief The entry edited live, or null.
     TextEntry *dynamicWidget() const;
 
+    /**
+     * \brief Makes the first key after a new text start a new number, as a calculator does.
+     *
+     * When on, the keypad waits for a first key whenever it receives a text (setText(),
+     * setDynamicWidget() with an entry), after "OK" and when it is shown; while it waits, the
+     * display shows its text selected. The first digit, "." or "-" then replaces that text instead
+     * of being added to it: "250.0" followed by 3 gives "3", not "250.03". "DEL" and "K" act on the
+     * text shown, as they do later; Escape leaves the keypad waiting. Every key but Escape ends the
+     * wait, and later keys follow the usual rules.
+     *
+     * When off (the default), the keypad only starts a new number with the first key after it is
+     * shown, and shows no selection. Turning it on while the keypad is about to start a new number
+     * selects the display's text at once; turning it off ends the wait and clears the selection.
+     */
+    void setReplaceOnFirstKey(bool replace);
+
+    /// \brief Whether the first key after a new text replaces it; false by default.
+    bool replaceOnFirstKey() const;
+
     /// \brief Sets the lower end of the fader's range.
     void setMinimumData(float minimum);
 
