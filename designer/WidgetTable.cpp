@@ -9,6 +9,7 @@
 #include <ko/qtToolkit/widget/GenericDataFader.h>
 #include <ko/qtToolkit/widget/Keypad.h>
 #include <ko/qtToolkit/widget/LevelMeter.h>
+#include <ko/qtToolkit/widget/LevelScale.h>
 #include <ko/qtToolkit/widget/ListWidget.h>
 #include <ko/qtToolkit/widget/TableWidget.h>
 #include <ko/qtToolkit/widget/TextEntry.h>
@@ -94,6 +95,15 @@ const WidgetEntry table[] = {
      "levelMeter",
      KO_GEOMETRY(24, 200) "<property name=\"orientation\"><enum>Qt::Vertical</enum></property>",
      createPlain<w::LevelMeter>},
+    {"ko::qtToolkit::widget::LevelScale", "ko/qtToolkit/widget/LevelScale.h",
+     ":/ko/qtToolkit/designer/levelScale.svg",
+     "The decibel marks and labels of a level meter's range",
+     "Drawn beside a LevelMeter of the same length, with the meter's level range (setLevelRange()) "
+     "and orientation; the label step keeps labels apart. Mirrored, the marks start at the right "
+     "edge, for a scale before the meter.",
+     "levelScale",
+     KO_GEOMETRY(40, 200),
+     createPlain<w::LevelScale>},
     {"ko::qtToolkit::widget::TextEntry", "ko/qtToolkit/widget/TextEntry.h",
      ":/ko/qtToolkit/designer/textEntry.svg",
      "A single-line entry field for touch panels, numeric by default",

@@ -7,6 +7,7 @@
 #include <ko/qtToolkit/widget/GenericDataFader.h>
 #include <ko/qtToolkit/widget/Keypad.h>
 #include <ko/qtToolkit/widget/LevelMeter.h>
+#include <ko/qtToolkit/widget/LevelScale.h>
 #include <ko/qtToolkit/widget/ListWidget.h>
 #include <ko/qtToolkit/widget/TableWidget.h>
 #include <ko/qtToolkit/widget/TextEntry.h>
@@ -50,6 +51,7 @@ const Offered offered[] = {
     {"ko::qtToolkit::widget::Fader", "fader", isA<Fader>},
     {"ko::qtToolkit::widget::GenericDataFader", "genericDataFader", isA<GenericDataFader>},
     {"ko::qtToolkit::widget::LevelMeter", "levelMeter", isA<LevelMeter>},
+    {"ko::qtToolkit::widget::LevelScale", "levelScale", isA<LevelScale>},
     {"ko::qtToolkit::widget::TextEntry", "textEntry", isA<TextEntry>},
     {"ko::qtToolkit::widget::Keypad", "keypad", isA<Keypad>},
     {"ko::qtToolkit::widget::Button", "button", isA<Button>},
@@ -232,6 +234,9 @@ void tst_DesignerPlugin::uiLoader()
     QCOMPARE(meter->mediumThresholdLevel(), -12.5f);
     QCOMPARE(meter->highThresholdLevel(), 6.0f);
     QVERIFY(meter->isMuted());
+
+    auto *scale = form->findChild<LevelScale *>(QStringLiteral("levelScale"));
+    QVERIFY(scale->isMirrored());
 
     auto *entry = form->findChild<TextEntry *>(QStringLiteral("textEntry"));
     QCOMPARE(entry->suffix(), QStringLiteral("dB"));
