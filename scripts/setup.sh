@@ -14,8 +14,10 @@ export DEBIAN_FRONTEND=noninteractive
 if [ "$(id -u)" -eq 0 ]; then sudo=(); else sudo=(sudo -n); fi
 
 packages=(
-  g++ cmake ninja-build pkg-config dpkg-dev
+  g++ cmake ninja-build pkg-config dpkg-dev file
   qtbase5-dev qtbase5-private-dev libqt5charts5-dev libqt5svg5-dev
+  # the Designer plugin and QUiLoader in its tests
+  qttools5-dev
   libbenchmark-dev fonts-dejavu-core xvfb xauth
   # the binary-interface check (scripts/abi-check.sh)
   abigail-tools
@@ -33,8 +35,9 @@ case "$qt_major" in
     # Qt 6 in place of Qt 5; QCustomPlot's development package carries both builds, and Debian
     # ships Qwt for Qt 5 only, so the benchmarks compare with it on Qt 5 alone.
     packages=(
-      g++ cmake ninja-build pkg-config dpkg-dev
+      g++ cmake ninja-build pkg-config dpkg-dev file
       qt6-base-dev qt6-base-private-dev qt6-charts-dev qt6-svg-dev libqt6opengl6-dev
+      qt6-tools-dev
       libbenchmark-dev fonts-dejavu-core xvfb xauth
       abigail-tools
       libqcustomplot-dev
