@@ -67,6 +67,7 @@ class tst_GenericDataFader : public QObject
 
 private Q_SLOTS:
     void defaults();
+    void constructedWithAParentOnly();
     void dataMapping_data();
     void dataMapping();
     void everyRangeSetterAppliesTheRange();
@@ -120,6 +121,22 @@ void tst_GenericDataFader::defaults()
     QCOMPARE(asFloat(fader.property("GenericFaderData")), 3.7f);
     QVERIFY(fader.setProperty("GenericFaderData", 2.5f));
     QCOMPARE(fader.value(), 25);
+}
+
+// The constructor forms made with Qt Designer call: a vertical data fader like any other.
+void tst_GenericDataFader::constructedWithAParentOnly()
+{
+    QWidget form;
+    auto *fader = new GenericDataFader(&form);
+    QCOMPARE(fader->parentWidget(), &form);
+    QCOMPARE(fader->orientation(), Qt::Vertical);
+    QCOMPARE(fader->getMaximumData(), 10.0f);
+    QCOMPARE(fader->getNumberOfDecimals(), 1u);
+    QCOMPARE(fader->property("TestTag").toString(), QStringLiteral("GenericDataFader"));
+    QSignalSpy data(fader, &GenericDataFader::dataChanged);
+    fader->setValue(12);
+    QCOMPARE(data.count(), 1);
+    QCOMPARE(data.first().first().toFloat(), 1.2f);
 }
 
 void tst_GenericDataFader::dataMapping_data()

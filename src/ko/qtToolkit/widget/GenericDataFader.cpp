@@ -47,6 +47,11 @@ GenericDataFader::GenericDataFader(Qt::Orientation orientation, QWidget *parent)
     connect(this, &QSlider::valueChanged, this, [this] { Q_EMIT dataChanged(getData()); });
 }
 
+GenericDataFader::GenericDataFader(QWidget *parent)
+    : GenericDataFader(Qt::Vertical, parent)
+{
+}
+
 GenericDataFader::~GenericDataFader() = default;
 
 float GenericDataFader::getData() const

@@ -38,6 +38,13 @@ public:
      * \param parent the parent widget, which owns the fader; may be null.
      */
     explicit GenericDataFader(Qt::Orientation orientation, QWidget *parent = nullptr);
+
+    /**
+     * \brief A vertical data fader, as GenericDataFader(Qt::Vertical, parent): the constructor
+     *        that forms made with Qt Designer call.
+     */
+    explicit GenericDataFader(QWidget *parent = nullptr);
+
     ~GenericDataFader() override;
 
     /// \brief The slider's value divided by the scale.
