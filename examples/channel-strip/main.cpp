@@ -49,8 +49,11 @@ public:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
+        // The window system may place the window only after Show, and without a Move; it is
+        // placed by the time the window is activated.
         const QEvent::Type type = event->type();
-        if (type == QEvent::Show || type == QEvent::Move || type == QEvent::Resize)
+        if (type == QEvent::Show || type == QEvent::WindowActivate || type == QEvent::Move
+            || type == QEvent::Resize)
             singleton::Keypad::instance()->setConstrainedRect(static_cast<QWidget *>(watched)->geometry());
         return false;
     }
