@@ -10,7 +10,6 @@
 #include <ko/qtToolkit/singleton/Keypad.h>
 #include <ko/qtToolkit/singleton/TextEntry.h>
 #include <ko/qtToolkit/widget/Button.h>
-#include <ko/qtToolkit/widget/ElidedLabel.h>
 #include <ko/qtToolkit/widget/GenericDataFader.h>
 #include <ko/qtToolkit/widget/LevelMeter.h>
 #include <ko/qtToolkit/widget/TextEntry.h>
@@ -20,6 +19,7 @@
 #include <QEvent>
 #include <QFile>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QRandomGenerator>
 #include <QTextStream>
 #include <QTimer>
@@ -66,7 +66,7 @@ public:
     ChannelStrip(const QString &name, float gain, QWidget *parent = nullptr)
         : QWidget(parent)
     {
-        auto *label = new widget::ElidedLabel(name);
+        auto *label = new QLabel(name);
         label->setAlignment(Qt::AlignCenter);
 
         // A numeric entry with a unit, appended as it is given. Its validator sets the range and the decimals, and the
@@ -194,8 +194,8 @@ int main(int argc, char *argv[])
     new KeypadInsideWindow(window);
 
     auto *layout = new QHBoxLayout(&window);
-    const QString names[] = {QStringLiteral("Lead vocal"), QStringLiteral("Acoustic guitar"),
-                             QStringLiteral("Keys"), QStringLiteral("Bass DI"), QStringLiteral("Kick drum")};
+    const QString names[] = {QStringLiteral("Lead vocal"), QStringLiteral("Guitar"), QStringLiteral("Keys"),
+                             QStringLiteral("Bass DI"), QStringLiteral("Kick drum")};
     const float gains[] = {0.0f, -4.5f, -12.0f, -2.0f, 8.0f};
     QVector<ChannelStrip *> strips;
     for (int i = 0; i < 5; ++i) {
