@@ -17,7 +17,8 @@ build=${KO_FUZZ_BUILD_DIR:-$repo/build-fuzz}
 "$repo/scripts/setup.sh" --fuzz
 start=$SECONDS
 CC=clang CXX=clang++ KO_BUILD_DIR="$build" "$repo/scripts/build.sh" \
-    -DKO_QTTOOLKIT_FUZZ=ON -DKO_QTTOOLKIT_TESTS=OFF -DKO_QTTOOLKIT_GALLERY=OFF -DKO_QTTOOLKIT_BENCHMARKS=OFF
+    -DKO_QTTOOLKIT_FUZZ=ON -DKO_QTTOOLKIT_TESTS=OFF -DKO_QTTOOLKIT_GALLERY=OFF -DKO_QTTOOLKIT_EXAMPLES=OFF \
+    -DKO_QTTOOLKIT_BENCHMARKS=OFF
 echo "fuzz: clang build took $((SECONDS - start)) s"
 
 export QT_QPA_PLATFORM=offscreen
