@@ -12,6 +12,7 @@
 #include <ko/qtToolkit/widget/Button.h>
 #include <ko/qtToolkit/widget/GenericDataFader.h>
 #include <ko/qtToolkit/widget/LevelMeter.h>
+#include <ko/qtToolkit/widget/LevelScale.h>
 #include <ko/qtToolkit/widget/TextEntry.h>
 
 #include <QApplication>
@@ -112,7 +113,12 @@ public:
 
         auto *meterAndFader = new QHBoxLayout;
         meterAndFader->addStretch(1);
+        // The scale takes the meter's range and its whole height, so its marks meet the bar.
+        auto *scale = new widget::LevelScale;
+        scale->setLevelRange(m_meter->minimumLevel(), m_meter->maximumLevel());
         meterAndFader->addWidget(m_meter);
+        meterAndFader->addSpacing(-meterAndFader->spacing());
+        meterAndFader->addWidget(scale);
         meterAndFader->addWidget(m_fader);
         meterAndFader->addStretch(1);
 
