@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // One layout-and-render pass of an 800 x 600 chart with a linear and a logarithmic axis: the
 // library's LinearAxis and LogarithmicAxis (with minor labels) against Qt Charts' QValueAxis and
 // QLogValueAxis over the same ranges with the same major and minor ticks. Prints the time ratio

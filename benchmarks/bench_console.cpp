@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // A 64-channel console in one window under the library's style sheet: each channel strip a
 // level meter, a fader and a button. Every frame changes the level of each meter and moves one
 // fader that is being dragged (mouse press on its handle before the frames, a move with the

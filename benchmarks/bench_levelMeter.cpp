@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // A wall of 64 vertical level meters of 20 by 200 pixels, as a 64-channel console shows them.
 // The wall is a shown window; every frame changes the level of each meter and then lets the
 // window's backing store paint what the meters asked to repaint (their update regions, or the

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // Tick generation as an axis runs it at every layout: ticks, sub-ticks and the tick labels, for
 // fixed ranges and for a zoom sweep of 1000 ranges. With QCustomPlot available, its tickers run
 // on the same ranges (QCPAxisTicker with the meet-tick-count strategy, QCPAxisTickerLog and

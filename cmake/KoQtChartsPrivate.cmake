@@ -1,3 +1,7 @@
+# SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+#
+# SPDX-License-Identifier: MIT
+
 # Provides the target KoQtToolkit::QtChartsPrivate with the Qt Charts private headers.
 #
 # A Qt from the official installer ships them (Qt5::ChartsPrivate, Qt6::ChartsPrivate). Debian

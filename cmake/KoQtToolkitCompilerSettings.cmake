@@ -1,3 +1,7 @@
+# SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+#
+# SPDX-License-Identifier: MIT
+
 # Warnings, sanitizers and visibility shared by every target of the project.
 
 add_compile_options(-Wall -Wextra)

@@ -1,3 +1,7 @@
+# SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+#
+# SPDX-License-Identifier: MIT
+
 # Runs an example with --screenshot and checks that it wrote a PNG file with something in it:
 #   cmake -DPROGRAM=<example> -DOUTPUT=<file.png> -P KoQtToolkitExampleScreenshot.cmake
 # The caller's environment (QT_QPA_PLATFORM=offscreen) passes on to the example.

@@ -1,3 +1,7 @@
+# SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+#
+# SPDX-License-Identifier: MIT
+
 # ko_qttoolkit_add_example(<target> <sources>...)
 #
 # An example program linked against the library as an application would link it, built with the

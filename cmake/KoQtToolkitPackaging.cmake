@@ -1,3 +1,7 @@
+# SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+#
+# SPDX-License-Identifier: MIT
+
 # Debian packages built by CPack from the install components:
 #   runtime    the shared library                       libko-qttoolkit2
 #   dev        headers, CMake package, pkg-config file  libko-qttoolkit-dev

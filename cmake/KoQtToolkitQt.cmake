@@ -1,3 +1,7 @@
+# SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+#
+# SPDX-License-Identifier: MIT
+
 # Finds the Qt the library is built against and names what differs between the Qt majors.
 #
 # KO_QTTOOLKIT_QT_MAJOR picks Qt 5.15 (the default) or Qt 6.4 and later. Afterwards:

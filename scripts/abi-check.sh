@@ -1,4 +1,9 @@
 #!/usr/bin/env bash
+
+# SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+#
+# SPDX-License-Identifier: MIT
+
 # Compares the binary interface of the built library with the baseline in abi/.
 #
 #   scripts/abi-check.sh [DIR]            check; DIR is a build folder or an install prefix

@@ -1,4 +1,9 @@
 #!/usr/bin/env bash
+
+# SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+#
+# SPDX-License-Identifier: MIT
+
 # Configures and builds the project in build/ (or the folder given as $KO_BUILD_DIR), after the
 # set-up script has installed what is missing. Extra arguments go to CMake's configure step.
 set -euo pipefail

@@ -1,4 +1,9 @@
 #!/usr/bin/env bash
+
+# SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+#
+# SPDX-License-Identifier: MIT
+
 # Builds the Debian packages of a build folder (build/ unless given) with CPack, unpacks every one
 # into a scratch root with dpkg -x, and builds and runs examples/consumer against that root twice:
 # with CMake (CMAKE_PREFIX_PATH) and with pkg-config. Checks on the way that the runtime package

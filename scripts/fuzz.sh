@@ -1,4 +1,9 @@
 #!/usr/bin/env bash
+
+# SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+#
+# SPDX-License-Identifier: MIT
+
 # Builds the fuzz targets of tests/fuzz with clang, libFuzzer, AddressSanitizer and
 # UndefinedBehaviorSanitizer in build-fuzz/ (or $KO_FUZZ_BUILD_DIR), replays each target's corpus,
 # then fuzzes each target and prints one line per target: the inputs it ran and the slowest one.

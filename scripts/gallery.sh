@@ -1,4 +1,9 @@
 #!/usr/bin/env bash
+
+# SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+#
+# SPDX-License-Identifier: MIT
+
 # Sets up the machine, builds, and starts the gallery. Without a display it renders every page
 # to build/gallery-screenshots/ and prints the file names.
 set -euo pipefail

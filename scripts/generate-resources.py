@@ -1,4 +1,9 @@
 #!/usr/bin/env python3
+
+# SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+#
+# SPDX-License-Identifier: MIT
+
 """Draws the bundle's icons (24x24 SVG) and scroll-bar arrows (14x14 RGBA PNG), and the icons
 of the dark collection (:/ko/) that the bundle has no variant of for dark backgrounds.
 

@@ -1,4 +1,9 @@
 #!/usr/bin/env bash
+
+# SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+#
+# SPDX-License-Identifier: MIT
+
 # Installs everything the library, its tests, benchmarks and gallery need on Debian 12,
 # and stages the Qt Charts private headers of the installed Qt Charts version. With --fuzz it
 # also installs clang and its libFuzzer runtime, which only scripts/fuzz.sh needs.
@@ -19,8 +24,8 @@ packages=(
   # the Designer plugin and QUiLoader in its tests
   qttools5-dev
   libbenchmark-dev fonts-dejavu-core xvfb xauth
-  # the binary-interface check (scripts/abi-check.sh)
-  abigail-tools
+  # the binary-interface check (scripts/abi-check.sh) and the licence check (reuse lint)
+  abigail-tools reuse
   # benchmark-only peers; the build works without them
   libqcustomplot-dev libqwt-qt5-dev
 )
@@ -39,7 +44,7 @@ case "$qt_major" in
       qt6-base-dev qt6-base-private-dev qt6-charts-dev qt6-svg-dev libqt6opengl6-dev
       qt6-tools-dev
       libbenchmark-dev fonts-dejavu-core xvfb xauth
-      abigail-tools
+      abigail-tools reuse
       libqcustomplot-dev
     ) ;;
   *) echo "setup: KO_QT_MAJOR must be 5 or 6, not $qt_major" >&2; exit 2 ;;

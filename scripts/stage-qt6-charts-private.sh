@@ -1,4 +1,9 @@
 #!/usr/bin/env bash
+
+# SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+#
+# SPDX-License-Identifier: MIT
+
 # Stages the Qt Charts 6 private headers of exactly the installed Qt Charts version under
 # .cache/qt6-private, in the layout of an official Qt install. Run by scripts/setup.sh.
 #
@@ -55,6 +60,8 @@ find "$tree/src/charts" -name '*_p.h' -exec cp {} "$staged/" \;
 # Qt's build generates two private headers that its source lacks: the module's private features
 # (Qt Charts has none) and the private export macro.
 : >"$staged/qtcharts-config_p.h"
+# The generated header is Qt's and keeps Qt's licence notice.
+# REUSE-IgnoreStart
 cat >"$staged/qtchartsexports_p.h" <<'HEADER'
 // Copyright (C) 2021 The Qt Company Ltd.
 // SPDX-License-Identifier: LicenseRef-Qt-Commercial OR LGPL-3.0-only OR GPL-2.0-only OR GPL-3.0-only
@@ -79,6 +86,7 @@ cat >"$staged/qtchartsexports_p.h" <<'HEADER'
 
 #endif // QTCHARTSEXPORTS_P_H
 HEADER
+# REUSE-IgnoreEnd
 if [ -d "$tree/LICENSES" ]; then cp -r "$tree/LICENSES" "$root/QtCharts/$qt_version/"; fi
 touch "$stamp"
 rm -rf "$src"

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // A mixer's channel strips. Each strip has a name, a gain entry in dB that opens the keypad when
 // touched, a level meter with peak hold and clip latch beside the gain fader, and a mute button.
 // A double tap on a fader's handle returns its gain to 0 dB; a tap on a meter releases its clip

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // A program using the installed library as an application would: it prints the library's
 // interface version and the first line of its style sheet, builds one of every public class,
 // puts the chart axes into a real QChart and lays it out, and exits with 0 when all went well.

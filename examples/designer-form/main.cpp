@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // A channel strip laid out in Qt Designer: the form's widgets come from ui_ChannelStrip.h, which
 // uic writes from ChannelStrip.ui. Run with --check, it builds the strip, checks what the form
 // set and exits.

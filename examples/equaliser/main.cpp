@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // An equaliser view for a dark room: the response of four bands (a low shelf, two peaks, a high
 // shelf) on a frequency axis and a level axis in dB, in the library's dark chart style under the
 // dark style sheet. A fader per band sets its gain; a double tap on a handle returns it to 0 dB.

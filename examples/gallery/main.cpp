@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // The gallery shows every widget of the library under its style sheets, one page per part; the
 // switch in the corner of the tabs changes between the light and the dark sheet live.
 //

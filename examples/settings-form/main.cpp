@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // A device's settings on an 800 x 480 touch panel: a list of sections paged by arrow buttons on
 // the left, and a form per section with numeric entries in units (touching one opens the keypad),
 // text entries, combo boxes, on/off switches and button groups. The display section switches

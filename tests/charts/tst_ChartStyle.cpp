@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 #include <ko/qtToolkit/charts/ChartStyle.h>
 #include <ko/qtToolkit/charts/FrequencyAxis.h>
 #include <ko/qtToolkit/charts/LinearAxis.h>

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // Tick generation and labels of the three tickers, with any settings, ranges and label formats.
 // Rules: major ticks and sub-ticks strictly ascending and inside [min, max], no sub-tick on a
 // major tick, counts capped, one label per tick, labels of bounded length, custom tickers only

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // The library's axes in a real chart: any ranges, reversal, label formats, tickers, chart sizes
 // and animations, with pans, zooms and value/pixel mapping. Rules: a pan or zoom either applies
 // exactly the range it computes, when that range passes its limits, or leaves the axis alone;

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // Faders and meters: a Fader and a GenericDataFader dragged with any presses, moves and releases
 // over any ranges and steps, data ranges and decimals set to anything, and a LevelMeter given any
 // levels, level ranges, thresholds and progress-bar ranges, all of them painted. Rules: a drag

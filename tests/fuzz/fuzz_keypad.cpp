@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // Key sequences on a keypad editing a dynamic entry, with any validator range, fader decimals and
 // keys (buttons, a hardware keyboard, keys the keypad does not know). Each Enter is committed as
 // the entry commits an accepted keypad. Rules: the display never shows NaN or an infinity, the

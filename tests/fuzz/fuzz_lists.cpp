@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // Random ownership operations on a ListWidget and on the lists of a navigator list (WidgetBase):
 // buttons added, inserted, removed, taken, moved to the other list, deleted by the application,
 // checked, clicked, and the lists cleared, instrumented, scrolled with their navigator buttons

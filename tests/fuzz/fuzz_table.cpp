@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // Random ownership operations on a TableWidget: widgets put into header sections (new ones,
 // ones already in another section or in the corner, null), corner widgets, widgets the
 // application deletes or takes back, clear, rows and columns added and removed, sections

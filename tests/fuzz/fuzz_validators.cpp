@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // validate and fixup of both validators, with any range, decimals, locale and text, and the text
 // entry that commits through fixup. Rules: fixup's result parses, is never NaN, lies in the range
 // (where the range holds a number with that many decimals), has exactly that many decimals, is

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // Loads the library at run time instead of linking it, so that its resource bundle can be seen
 // to arrive when the library is loaded and to go when it is unloaded.
 #include <QFile>

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // Every text a widget shows, rendered under the light and the dark sheet, measured from the
 // pixels: the contrast ratio of the text colour to the background under it (WCAG 2 relative
 // luminance) is at least 4.5:1, and the states a touch panel must tell apart look different.

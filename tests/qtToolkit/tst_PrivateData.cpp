@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // Every installed class keeps its state behind one pointer: a member added to an installed header
 // changes the size of the class, and with it the binary interface of every application built
 // against the library. Each class is measured against its base, so any added member, in any

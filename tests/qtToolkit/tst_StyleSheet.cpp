@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 #include <ko/qtToolkit/qtToolkit.h>
 #include <ko/qtToolkit/dialog/Keypad.h>
 #include <ko/qtToolkit/widget/Button.h>

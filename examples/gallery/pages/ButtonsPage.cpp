@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // Buttons and labels: button groups of several sizes, the ON/OFF switch, captions that shorten
 // as their container narrows, and touch combo boxes with long lists.
 

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // Chart axes: a linear time axis and a logarithmic level axis whose ticks come from their
 // tickers, with labels at the minor ticks. Drag the plot to pan, turn the wheel to zoom. Beside
 // it, the same axes on a narrow chart hide the labels that would overlap.

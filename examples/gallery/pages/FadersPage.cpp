@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // Faders and level meters: touch faders whose handle shows the fine or coarse drag through the
 // style sheet and that a double tap resets, a data fader with decimals and a full-range drag,
 // and a wall of meters with a scale, peak hold and clip latches, fed by a simulated signal.

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // The library frame: every icon of the resource bundle, and Qt's standard widgets as the style
 // sheet dresses them.
 

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // A frequency-response view as an audio panel shows it: a frequency axis and a level axis in dB
 // in the library's dark chart style, with filter curves computed here. Drag to pan, turn the
 // wheel to zoom; the readout follows the pointer or finger.

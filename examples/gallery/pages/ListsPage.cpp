@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // Lists and tables: preset lists paged by navigator buttons, in a column and in a row, and a
 // mixer-like table with controls in its column heads.
 

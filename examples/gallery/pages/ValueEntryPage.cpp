@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // Value entry: numeric fields with units and ranges, a text field, the keypad that numeric
 // fields open when it is switched on, and the message box the library asks the application for.
 

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 #include <ko/qtToolkit/charts/ChartHelpers.h>
 #include <ko/qtToolkit/charts/ChartHelpers_p.h>
 

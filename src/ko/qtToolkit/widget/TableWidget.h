@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 #ifndef KO_QTTOOLKIT_WIDGET_TABLEWIDGET_H
 #define KO_QTTOOLKIT_WIDGET_TABLEWIDGET_H
 
