@@ -22,15 +22,17 @@ endif()
 set(KO_QTTOOLKIT_DOCS_OUTPUT_DIR "${PROJECT_BINARY_DIR}/docs" CACHE PATH
     "Where the docs target writes the API reference")
 
-# Qt's qhelpgenerator, of the Qt this build uses: beside qmake (Qt 5) or in Qt's libexec (Qt 6).
+# Qt's qhelpgenerator, of the Qt this build uses: in Qt's libexec (Qt 6) or beside qmake (Qt 5).
+# Qt 6's libexec comes first: Debian's Qt 6 qmake lies in /usr/bin, whose qhelpgenerator is
+# qtchooser's, which runs Qt 5's.
 set(_ko_qt_tool_dirs "")
+if(KO_QTTOOLKIT_QT_MAJOR STREQUAL "6" AND QT6_INSTALL_PREFIX AND QT6_INSTALL_LIBEXECS)
+    list(APPEND _ko_qt_tool_dirs "${QT6_INSTALL_PREFIX}/${QT6_INSTALL_LIBEXECS}")
+endif()
 if(TARGET ${KO_QT}::qmake)
     get_target_property(_ko_qmake ${KO_QT}::qmake LOCATION)
     get_filename_component(_ko_qmake_dir "${_ko_qmake}" DIRECTORY)
     list(APPEND _ko_qt_tool_dirs "${_ko_qmake_dir}")
-endif()
-if(QT6_INSTALL_PREFIX AND QT6_INSTALL_LIBEXECS)
-    list(APPEND _ko_qt_tool_dirs "${QT6_INSTALL_PREFIX}/${QT6_INSTALL_LIBEXECS}")
 endif()
 find_program(KO_QTTOOLKIT_QHELPGENERATOR NAMES qhelpgenerator
     HINTS ${_ko_qt_tool_dirs} NO_DEFAULT_PATH)
