@@ -4,9 +4,9 @@
 #
 # SPDX-License-Identifier: MIT
 
-# Installs everything the library, its tests, benchmarks and gallery need on Debian 12,
-# and stages the Qt Charts private headers of the installed Qt Charts version. With --fuzz it
-# also installs clang and its libFuzzer runtime, which only scripts/fuzz.sh needs.
+# Installs everything the library, its tests, benchmarks, gallery and API reference need on
+# Debian 12, and stages the Qt Charts private headers of the installed Qt Charts version. With
+# --fuzz it also installs clang and its libFuzzer runtime, which only scripts/fuzz.sh needs.
 # Idempotent and non-interactive: a second run only checks and returns.
 #
 # KO_QT_MAJOR=6 sets up for Qt 6 instead of Qt 5.15 (the default).
@@ -26,6 +26,8 @@ packages=(
   libbenchmark-dev fonts-dejavu-core xvfb xauth
   # the binary-interface check (scripts/abi-check.sh) and the licence check (reuse lint)
   abigail-tools reuse
+  # the API reference (the docs target): Doxygen, Qt's help generator and Qt's tag files
+  doxygen qhelpgenerator-qt5 qtbase5-doc-dev
   # benchmark-only peers; the build works without them
   libqcustomplot-dev libqwt-qt5-dev
 )
@@ -45,6 +47,8 @@ case "$qt_major" in
       qt6-tools-dev
       libbenchmark-dev fonts-dejavu-core xvfb xauth
       abigail-tools reuse
+      # Debian ships Qt's tag files for Qt 5 only; the Qt 6 reference links Qt 6's pages with them
+      doxygen qt6-documentation-tools qtbase5-doc-dev
       libqcustomplot-dev
     ) ;;
   *) echo "setup: KO_QT_MAJOR must be 5 or 6, not $qt_major" >&2; exit 2 ;;

@@ -26,22 +26,22 @@ QT_CHARTS_END_NAMESPACE
 namespace ko::qtToolkit::charts::style {
 
 /**
- * \brief Dark background #1a1a1a without rounded corners, title in #aaaaaa, margins of 8 and a
+ * \brief Dark background \#1a1a1a without rounded corners, title in \#aaaaaa, margins of 8 and a
  *        layout without contents margins.
  * \param chart not owned; null is ignored
  */
 KO_QTTOOLKIT_EXPORT void applyTo(QtCharts::QChart *chart);
 
 /**
- * \brief Grid and axis line #333333, minor grid #222222 (all shown), labels #999999 in a
- *        10-pixel default font, and minor labels #777777 on LinearAxis and LogarithmicAxis
+ * \brief Grid and axis line \#333333, minor grid \#222222 (all shown), labels \#999999 in a
+ *        10-pixel default font, and minor labels \#777777 on LinearAxis and LogarithmicAxis
  *        (other axis classes have no minor labels to colour).
  * \param axis not owned; null is ignored
  */
 KO_QTTOOLKIT_EXPORT void applyTo(QtCharts::QAbstractAxis *axis);
 
 /**
- * \brief Hides the legend and gives its labels the colour #8f8f91.
+ * \brief Hides the legend and gives its labels the colour \#8f8f91.
  * \param legend not owned; null is ignored
  */
 KO_QTTOOLKIT_EXPORT void applyTo(QtCharts::QLegend *legend);

@@ -32,7 +32,9 @@ class LinearAxisPrivate;
 class KO_QTTOOLKIT_EXPORT LinearAxis : public QtCharts::QValueAxis
 {
     Q_OBJECT
+    /// Whether labels are shown at the minor ticks; see minorLabelsVisible().
     Q_PROPERTY(bool minorLabelsVisible READ minorLabelsVisible WRITE setMinorLabelsVisible NOTIFY minorLabelsVisibleChanged)
+    /// The colour of the minor labels; see minorLabelsColor().
     Q_PROPERTY(QColor minorLabelsColor READ minorLabelsColor WRITE setMinorLabelsColor NOTIFY minorLabelsColorChanged)
 
 public:
@@ -84,9 +86,9 @@ public:
     AxisNotifier *notifier() const;
 
 Q_SIGNALS:
-    /// The minor labels were shown or hidden.
+    /// The minor labels were shown (\a visible true) or hidden; emitted only on change.
     void minorLabelsVisibleChanged(bool visible);
-    /// The minor labels got another colour.
+    /// The minor labels got the colour \a color; emitted only on change.
     void minorLabelsColorChanged(const QColor &color);
 
 private:

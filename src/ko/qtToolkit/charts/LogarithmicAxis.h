@@ -28,7 +28,9 @@ class LogarithmicAxisPrivate;
 class KO_QTTOOLKIT_EXPORT LogarithmicAxis : public QtCharts::QLogValueAxis
 {
     Q_OBJECT
+    /// Whether labels are shown at the minor ticks; see minorLabelsVisible().
     Q_PROPERTY(bool minorLabelsVisible READ minorLabelsVisible WRITE setMinorLabelsVisible NOTIFY minorLabelsVisibleChanged)
+    /// The colour of the minor labels; see minorLabelsColor().
     Q_PROPERTY(QColor minorLabelsColor READ minorLabelsColor WRITE setMinorLabelsColor NOTIFY minorLabelsColorChanged)
 
 public:
@@ -41,11 +43,11 @@ public:
     void setTicker(AxisTicker *ticker);
     /// \copydoc LinearAxis::ticker()
     AxisTicker *ticker() const;
-    /// \copydoc LinearAxis::minorLabelsVisible()
+    /// \copydoc LinearAxis::minorLabelsVisible() const
     bool minorLabelsVisible() const;
     /// \copydoc LinearAxis::setMinorLabelsVisible()
     void setMinorLabelsVisible(bool visible);
-    /// \copydoc LinearAxis::minorLabelsColor()
+    /// \copydoc LinearAxis::minorLabelsColor() const
     QColor minorLabelsColor() const;
     /// \copydoc LinearAxis::setMinorLabelsColor()
     void setMinorLabelsColor(const QColor &color);

@@ -33,6 +33,9 @@ public:
     /**
      * \brief A validator for the range [\a bottom, \a top] with at most \a decimals digits
      *        after the decimal point, as QDoubleValidator's.
+     * \param bottom the lowest acceptable value
+     * \param top the highest acceptable value
+     * \param decimals the most digits allowed after the decimal point
      * \param parent the owner of the validator, or null
      */
     DoubleValidator(double bottom, double top, int decimals, QObject *parent = nullptr);

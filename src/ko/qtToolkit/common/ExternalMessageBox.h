@@ -27,6 +27,9 @@ public:
     /**
      * \brief Asks the user to confirm \a message.
      * \param source the widget the question is about; the box may use it as parent.
+     * \param title the box's window title.
+     * \param message the question.
+     * \param icon the icon the box shows; QMessageBox::NoIcon when the caller left it out.
      * \return the application's answer code, for example a QMessageBox::StandardButton; 0 must
      *         mean "not confirmed".
      */
@@ -36,6 +39,9 @@ public:
     /**
      * \brief Tells the user \a message.
      * \param source the widget the information is about; the box may use it as parent.
+     * \param title the box's window title.
+     * \param message the information.
+     * \param icon the icon the box shows; QMessageBox::NoIcon when the caller left it out.
      * \return the application's answer code.
      */
     virtual int information(QWidget &source, const QString &title, const QString &message,

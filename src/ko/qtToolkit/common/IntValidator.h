@@ -30,6 +30,8 @@ public:
 
     /**
      * \brief A validator for the range [\a bottom, \a top], as QIntValidator's.
+     * \param bottom the lowest acceptable value
+     * \param top the highest acceptable value
      * \param parent the owner of the validator, or null
      */
     IntValidator(int bottom, int top, QObject *parent = nullptr);

@@ -26,9 +26,17 @@ class KeypadPrivate;
  * \brief The numeric keypad (widget::Keypad) as a frameless, application-modal tool window.
  *
  * "OK" accepts the dialog, Escape and the floating close button at the bottom right reject it.
- * The window can be dragged by its border and stays inside constrainedRect(); it opens again
- * where the user left it. Set a constrained rectangle before the first exec(): with the
- * default null rectangle the window opens at negative coordinates.
+ * The window can be dragged by its border (behavior::Draggable) and stays inside
+ * constrainedRect(); it opens again where the user left it, at constrainedOffset() from the
+ * rectangle's top left.
+ *
+ * \warning Set a constrained rectangle before the first exec(). The window is always kept
+ * inside it, and the default null rectangle (left 0, top 0, right -1, bottom -1) fits no
+ * window: the dialog then opens at negative coordinates, off the screen. A rectangle smaller
+ * than the window keeps its right and bottom edges, so the window sticks out at the left and the
+ * top. A new rectangle moves nothing until the next Show or drag. The dialog does not centre
+ * itself over a parent either (it has none): its place comes from the rectangle and the offset
+ * alone.
  *
  * While a dynamic widget is set, the entry receives every value the keypad produces through
  * widget::TextEntry::setText(), so it shows each change while the dialog is open.
@@ -68,7 +76,12 @@ public:
     /// \brief See widget::Keypad::setNumberOfDecimals().
     void setNumberOfDecimals(unsigned int decimals);
 
-    /// \brief Sets the rectangle, in global coordinates, the window is kept in; moves nothing.
+    /**
+     * \brief Sets the rectangle, in global coordinates, the window is kept in; moves nothing.
+     *
+     * Set it before the first exec(): with the default null rectangle the window opens off the
+     * screen.
+     */
     void setConstrainedRect(const QRect &rect);
     /// \brief The rectangle the window is kept in; a null rectangle by default.
     QRect constrainedRect() const;

@@ -28,12 +28,15 @@ public:
 
     /**
      * \brief A button captioned \a text.
+     * \param text the caption.
      * \param parent the owner of the button, or null
      */
     explicit Button(const QString &text, QWidget *parent = nullptr);
 
     /**
      * \brief A button showing \a icon and \a text.
+     * \param icon the icon, left of the caption.
+     * \param text the caption.
      * \param parent the owner of the button, or null
      */
     Button(const QIcon &icon, const QString &text, QWidget *parent = nullptr);

@@ -41,12 +41,15 @@ public:
 
     /**
      * \brief A button captioned \a text.
+     * \param text the full caption; text() returns it, painting shortens it.
      * \param parent the owner of the button, or null
      */
     explicit ElidedButton(const QString &text, QWidget *parent = nullptr);
 
     /**
      * \brief A button showing \a icon and \a text.
+     * \param icon the button's icon; its width is set aside whether or not there is one.
+     * \param text the full caption; text() returns it, painting shortens it.
      * \param parent the owner of the button, or null
      */
     ElidedButton(const QIcon &icon, const QString &text, QWidget *parent = nullptr);
@@ -58,7 +61,11 @@ public:
     void updateElidedText();
 
 protected:
+    /// \brief Calls updateElidedText() on Show and Paint events, then handles \a e as
+    ///        QPushButton does.
     bool event(QEvent *e) override;
+    /// \brief Paints the button body from the basic state, then the shortened caption inside
+    ///        the style's contents rectangle, 2 pixels in from either side.
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -37,12 +37,15 @@ public:
     /**
      * \brief An empty label.
      * \param parent the owner of the label, or null
+     * \param f the window flags, as QLabel's
      */
     explicit ElidedLabel(QWidget *parent = nullptr, Qt::WindowFlags f = Qt::WindowFlags());
 
     /**
      * \brief A label showing \a text.
+     * \param text the full text; text() returns it, painting shortens it.
      * \param parent the owner of the label, or null
+     * \param f the window flags, as QLabel's
      */
     explicit ElidedLabel(const QString &text, QWidget *parent = nullptr, Qt::WindowFlags f = Qt::WindowFlags());
     ~ElidedLabel() override;
@@ -67,7 +70,10 @@ public:
     void updateCache();
 
 protected:
+    /// \brief Paints as QLabel does, with the shortened text in place of the full one for the
+    ///        length of the paint; with Qt::ElideNone, exactly as QLabel.
     void paintEvent(QPaintEvent *event) override;
+    /// \brief Handles the resize as QLabel does, and has the next paint shorten the text anew.
     void resizeEvent(QResizeEvent *event) override;
 
 private:

@@ -28,8 +28,12 @@ enum class EllipsisMode {
  * <tt>widget.width() - margin</tt>, and cut at the right when it is too wide. A text that fits
  * is returned unchanged whatever \a mode says. A margin as large as the widget's width lets no
  * text fit, except a single character, which Qt never shortens.
+ * \param text the text to fit.
+ * \param widget the widget whose font and width count; not kept.
+ * \param margin the pixels of the width the text may not use.
  * \param mode EllipsisMode::Elide returns the shortened text; any other value returns
  *        \a replacement instead
+ * \param replacement what EllipsisMode::Replace returns for a text that does not fit.
  */
 KO_QTTOOLKIT_EXPORT QString elidedText(const QString &text, const QWidget &widget, int margin, EllipsisMode mode,
                                        const QString &replacement);

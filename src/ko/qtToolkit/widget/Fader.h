@@ -44,9 +44,13 @@ class FaderPrivate;
 class KO_QTTOOLKIT_EXPORT Fader : public QSlider
 {
     Q_OBJECT
+    /// Whether the handle is held; see isSliding(). Notified by slidingChanged().
     Q_PROPERTY(bool isSliding READ isSliding NOTIFY slidingChanged)
+    /// The value a double tap on the handle resets the fader to; see defaultValue().
     Q_PROPERTY(int defaultValue READ defaultValue WRITE setDefaultValue)
+    /// Whether a double tap on the handle resets the value; see isResetOnDoubleTapEnabled().
     Q_PROPERTY(bool resetOnDoubleTapEnabled READ isResetOnDoubleTapEnabled WRITE setResetOnDoubleTapEnabled)
+    /// How far a drag moves the value; see dragMode().
     Q_PROPERTY(DragMode dragMode READ dragMode WRITE setDragMode)
 
 public:
@@ -78,6 +82,8 @@ public:
 
     /**
      * \brief A fader with the given \a orientation.
+     * \param orientation Qt::Vertical (as the default constructor) or Qt::Horizontal; the fader
+     *        is 17 pixels wide either way.
      * \param parent the parent widget, which owns the fader; may be null.
      */
     explicit Fader(Qt::Orientation orientation, QWidget *parent = nullptr);

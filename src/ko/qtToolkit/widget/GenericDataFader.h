@@ -33,12 +33,15 @@ class GenericDataFaderPrivate;
 class KO_QTTOOLKIT_EXPORT GenericDataFader : public Fader
 {
     Q_OBJECT
+    /// The fader's value in data units; see getData() and setData(). Notified by dataChanged().
     Q_PROPERTY(float GenericFaderData READ getData WRITE setData NOTIFY dataChanged)
+    /// The data a double tap on the handle resets the fader to; see defaultData().
     Q_PROPERTY(float defaultData READ defaultData WRITE setDefaultData)
 
 public:
     /**
      * \brief A data fader with the range 0 to 10 and one decimal (not yet applied to the slider).
+     * \param orientation Qt::Vertical or Qt::Horizontal.
      * \param parent the parent widget, which owns the fader; may be null.
      */
     explicit GenericDataFader(Qt::Orientation orientation, QWidget *parent = nullptr);

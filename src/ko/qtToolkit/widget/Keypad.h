@@ -91,13 +91,28 @@ public:
     void setNumberOfDecimals(unsigned int decimals);
 
 Q_SIGNALS:
-    /// \brief "OK" or Enter was pressed.
+    /**
+     * \brief "OK" or Enter was pressed; follows valueUpdated() when "OK" changed the fader.
+     *
+     * \warning text() holds the clamped value only while the key is being handled: a slot
+     * connected directly sees the fader's clamped and formatted text ("100.0") when "OK" changed
+     * the fader's value, and the typed text otherwise. Once the key has been handled, the display
+     * shows the text as typed again ("250"), and so does text(). Clamp what is read later
+     * yourself (a widget::TextEntry does so with its validator), or read it during
+     * valueUpdated().
+     */
     void accepted();
 
-    /// \brief Escape was pressed.
+    /// \brief Escape was pressed; the display keeps its text.
     void rejected();
 
-    /// \brief The fader's value changed; text() holds it, clamped and formatted, for now.
+    /**
+     * \brief The fader's value changed, by "OK" or by a finger on the fader; text() holds the
+     *        new value, clamped and formatted with the fader's decimals, during the signal.
+     *
+     * After "OK", the display returns to the text as typed once the key has been handled (see
+     * accepted()); after a move of the fader, it keeps the fader's value.
+     */
     void valueUpdated();
 
 private:

@@ -58,11 +58,17 @@ class LevelMeterPrivate;
 class KO_QTTOOLKIT_EXPORT LevelMeter : public QProgressBar
 {
     Q_OBJECT
+    /// The lower end of the level range; see minimumLevel().
     Q_PROPERTY(float minimumLevel READ minimumLevel WRITE setMinimumLevel)
+    /// The upper end of the level range; see maximumLevel().
     Q_PROPERTY(float maximumLevel READ maximumLevel WRITE setMaximumLevel)
+    /// Where the medium colour starts; see mediumThresholdLevel().
     Q_PROPERTY(float mediumThresholdLevel READ mediumThresholdLevel WRITE setMediumThresholdLevel)
+    /// Where the high colour starts; see highThresholdLevel().
     Q_PROPERTY(float highThresholdLevel READ highThresholdLevel WRITE setHighThresholdLevel)
+    /// The level shown, in the level range; see level(). Not notified: the meter has no signals.
     Q_PROPERTY(float level READ level WRITE setLevel)
+    /// Whether the meter is shown muted; see isMuted().
     Q_PROPERTY(bool isMuted READ isMuted WRITE setMuted)
 
 public:
@@ -128,13 +134,13 @@ public:
     /// \brief Shows the meter muted or not.
     void setMuted(bool muted);
 
-    /// \brief The colour of the unlit part; #bbbbbb by default.
+    /// \brief The colour of the unlit part; \#bbbbbb by default.
     void setBackgroundColor(const QColor &color);
-    /// \brief The colour below the medium threshold; #008000 by default.
+    /// \brief The colour below the medium threshold; \#008000 by default.
     void setLowColor(const QColor &color);
-    /// \brief The colour between the thresholds; #fa6500 by default.
+    /// \brief The colour between the thresholds; \#fa6500 by default.
     void setMediumColor(const QColor &color);
-    /// \brief The colour above the high threshold; #c82300 by default.
+    /// \brief The colour above the high threshold; \#c82300 by default.
     void setHighColor(const QColor &color);
 
     /// \brief \a level limited to the level range; the minimum wins over the maximum, and NaN
@@ -231,7 +237,10 @@ public:
     LevelMeterNotifier *notifier() const;
 
 protected:
+    /// \brief Paints the meter within the event's rectangle (frame, lit zones, unlit part, peak
+    ///        line, clip cap) in place of QProgressBar's style: no text, no chunks.
     void paintEvent(QPaintEvent *event) override;
+    /// \brief Rebuilds the colour gradient for the new size.
     void resizeEvent(QResizeEvent *event) override;
 
 private:

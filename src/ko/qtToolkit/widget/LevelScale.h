@@ -47,9 +47,13 @@ class LevelScalePrivate;
 class KO_QTTOOLKIT_EXPORT LevelScale : public QWidget
 {
     Q_OBJECT
+    /// Whether the scale runs upwards or to the right; see orientation().
     Q_PROPERTY(Qt::Orientation orientation READ orientation WRITE setOrientation)
+    /// The lower end of the level range, read-only; see setLevelRange().
     Q_PROPERTY(float minimumLevel READ minimumLevel)
+    /// The upper end of the level range, read-only; see setLevelRange().
     Q_PROPERTY(float maximumLevel READ maximumLevel)
+    /// Whether the marks start at the right or bottom edge; see isMirrored().
     Q_PROPERTY(bool mirrored READ isMirrored WRITE setMirrored)
 
 public:
@@ -101,11 +105,16 @@ public:
     /// \brief The step between labelled marks at the current length and font, in level units.
     double majorStep() const;
 
+    /// \brief 200 pixels along the scale; across it, room for the marks and the widest label
+    ///        (one line of text when horizontal), in the widget's font.
     QSize sizeHint() const override;
+    /// \brief The thickness of sizeHint(), and 50 pixels along the scale.
     QSize minimumSizeHint() const override;
 
 protected:
+    /// \brief Draws the marks and labels for the current length and font.
     void paintEvent(QPaintEvent *event) override;
+    /// \brief On a font change, tells the layout that the size hint changed with the font.
     void changeEvent(QEvent *event) override;
 
 private:

@@ -40,7 +40,10 @@ class TextEntryPrivate;
 class KO_QTTOOLKIT_EXPORT TextEntry : public QWidget
 {
     Q_OBJECT
+    /// The committed text, without the suffix; see text(). Notified by textChanged() at every
+    /// commit, changed or not.
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
+    /// The unit shown after a numeric text; see suffix().
     Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
 
 public:
@@ -52,6 +55,7 @@ public:
 
     /**
      * \brief A numeric entry holding \a text, after the default validator's fixup().
+     * \param text the first text, repaired by the default validator: "5" becomes "5.00".
      * \param parent the owner of the entry, or null
      */
     explicit TextEntry(const QString &text, QWidget *parent = nullptr);
