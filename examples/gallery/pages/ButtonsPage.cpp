@@ -84,11 +84,12 @@ QWidget *createSwitches()
     mute->button(1)->setProperty("class", QStringLiteral("critical"));
     mute->setOn(true);
 
+    // Back to the states the page opened with: phantom power off, the channel muted.
     auto *reset = new Button(QStringLiteral("Reset both"));
     QObject::connect(reset, &QPushButton::clicked, phantom, [phantom, mute, phantomState] {
         // The silent setters do not report, so the label is updated here.
         phantom->setOff(true);
-        mute->setOff(true);
+        mute->setOn(true);
         phantomState->setText(QStringLiteral("48 V off"));
     });
     auto *withIcon = new Button(QIcon(QStringLiteral(":/ic_check_box_white_24px.svg")), QStringLiteral("Apply"));
