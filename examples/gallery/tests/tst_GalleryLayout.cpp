@@ -20,6 +20,8 @@
 #include <QTabBar>
 #include <QTest>
 
+#include <utility>
+
 namespace {
 
 bool inLayout(const QLayout *layout, const QWidget *widget)
@@ -226,7 +228,7 @@ void tst_GalleryLayout::pages()
     if (!m_window->rect().contains(onWindow))
         problems << QStringLiteral("the page (%1) sticks out of the window").arg(rectText(onWindow));
     checkChildren(widget, widget, problems);
-    for (const QString &problem : qAsConst(problems))
+    for (const QString &problem : std::as_const(problems))
         qWarning("%s", qPrintable(problem));
     QVERIFY2(problems.isEmpty(), qPrintable(QStringLiteral("%1 problems, listed above").arg(problems.size())));
 }
