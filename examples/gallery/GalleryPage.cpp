@@ -4,12 +4,61 @@
 
 #include "GalleryPage.h"
 
+#include <QEvent>
+#include <QScrollArea>
+#include <QScrollBar>
+
 namespace gallery {
+
+namespace {
+
+// Tells a page the width of the viewport it is shown in, whenever that changes.
+class WidthWatcher : public QObject
+{
+public:
+    WidthWatcher(QScrollArea *area, std::function<void(int)> arrange)
+        : QObject(area)
+        , m_area(area)
+        , m_arrange(std::move(arrange))
+    {
+        area->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        // The scroll area's own size, less its frame: the viewport's width would depend on
+        // whether the page's last arrangement needed a scroll bar.
+        if (watched == m_area && event->type() == QEvent::Resize)
+            m_arrange(m_area->contentsRect().width() - m_area->verticalScrollBar()->sizeHint().width());
+        return false;
+    }
+
+private:
+    QScrollArea *m_area;
+    std::function<void(int)> m_arrange;
+};
+
+} // namespace
 
 QVector<Page> &pages()
 {
     static QVector<Page> registered;
     return registered;
+}
+
+QScrollArea *scrollable(QWidget *contents, std::function<void(int width)> arrange)
+{
+    auto *area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(contents);
+    // The page keeps the window's background under both sheets: neither the viewport nor the
+    // page paints one of its own.
+    contents->setAutoFillBackground(false);
+    if (arrange)
+        new WidthWatcher(area, std::move(arrange));
+    return area;
 }
 
 } // namespace gallery

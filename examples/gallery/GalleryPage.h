@@ -10,6 +10,7 @@
 
 #include <functional>
 
+class QScrollArea;
 class QWidget;
 
 namespace gallery {
@@ -33,6 +34,13 @@ struct PageRegistration
         pages().append({order, title, std::move(create)});
     }
 };
+
+/**
+ * A frameless scroll area around \a contents (which it takes), for a page that does not fit on
+ * the small panels. Before each relayout, \a arrange (optional) is told the width the page
+ * has, so that the page can reflow into fewer columns instead of scrolling sideways.
+ */
+QScrollArea *scrollable(QWidget *contents, std::function<void(int width)> arrange = {});
 
 } // namespace gallery
 

@@ -112,7 +112,10 @@ QWidget *chartPage(PanZoomChartView *view, QWidget *control, const std::function
     QObject::connect(reset, &QPushButton::clicked, view, resetView);
 
     auto *controls = new QHBoxLayout;
-    controls->addWidget(new QLabel(QStringLiteral("Drag the plot to pan, turn the wheel to zoom.")), 1);
+    // The hint wraps rather than widen the page beyond the small panels.
+    auto *hint = new QLabel(QStringLiteral("Drag the plot to pan, turn the wheel to zoom."));
+    hint->setWordWrap(true);
+    controls->addWidget(hint, 1);
     if (control)
         controls->addWidget(control);
     controls->addWidget(reset);

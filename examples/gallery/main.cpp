@@ -6,64 +6,19 @@
 // switch in the corner of the tabs changes between the light and the dark sheet live.
 //
 //   ko-qttoolkit-gallery                    opens the gallery window
+//   ko-qttoolkit-gallery --size 800x480     opens it at that size (the small touch panels)
 //   ko-qttoolkit-gallery --screenshot DIR   renders every page in both themes to
-//                                           DIR/<nn>-<page>.png and DIR/<nn>-<page>-dark.png
+//                                           DIR/<nn>-<page>.png and DIR/<nn>-<page>-dark.png,
+//                                           and at 800 x 480 and 1024 x 600 to
+//                                           DIR/<nn>-<page>-800x480[-dark].png and so on,
 //                                           and exits
 
-#include "GalleryPage.h"
-
-#include <ko/qtToolkit/qtToolkit.h>
+#include "GalleryWindow.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QDir>
-#include <QFile>
-#include <QPushButton>
-#include <QTabWidget>
+#include <QRegularExpression>
 #include <QTextStream>
-
-#include <algorithm>
-
-namespace {
-
-QString styleSheet(const QString &path)
-{
-    QFile file(path);
-    file.open(QIODevice::ReadOnly | QIODevice::Text);
-    return QString::fromUtf8(file.readAll());
-}
-
-QString fileNameFor(int index, const QString &title, bool dark)
-{
-    QString slug = title.toLower();
-    slug.replace(QLatin1Char(' '), QLatin1Char('-'));
-    return QStringLiteral("%1-%2%3.png")
-        .arg(index + 1, 2, 10, QLatin1Char('0'))
-        .arg(slug, dark ? QStringLiteral("-dark") : QString());
-}
-
-int renderScreenshots(QTabWidget &window, QPushButton &darkTheme, const QString &directory)
-{
-    QDir().mkpath(directory);
-    QTextStream out(stdout);
-    for (const bool dark : {false, true}) {
-        darkTheme.setChecked(dark);
-        for (int i = 0; i < window.count(); ++i) {
-            window.setCurrentIndex(i);
-            QApplication::processEvents();
-            const QString path = QDir(directory).absoluteFilePath(fileNameFor(i, window.tabText(i), dark));
-            if (!window.grab().save(path)) {
-                QTextStream(stderr) << "could not write " << path << '\n';
-                return 1;
-            }
-            out << path << '\n';
-        }
-    }
-    out << "screenshots: " << window.count() << " pages in 2 themes\n";
-    return 0;
-}
-
-} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -76,36 +31,27 @@ int main(int argc, char *argv[])
     const QCommandLineOption screenshot(QStringLiteral("screenshot"),
                                         QStringLiteral("Render every page to a PNG file in <dir> and exit."),
                                         QStringLiteral("dir"));
+    const QCommandLineOption size(QStringLiteral("size"), QStringLiteral("Open the window at <width>x<height>."),
+                                  QStringLiteral("size"));
     parser.addOption(screenshot);
+    parser.addOption(size);
     parser.process(app);
 
-    const QString lightSheet = styleSheet(QStringLiteral(":/qtToolkit.qss"));
-    const QString darkSheet = styleSheet(QStringLiteral(":/ko/qtToolkit-dark.qss"));
-    app.setStyleSheet(lightSheet);
-
-    QVector<gallery::Page> pages = gallery::pages();
-    std::stable_sort(pages.begin(), pages.end(),
-                     [](const gallery::Page &a, const gallery::Page &b) { return a.order < b.order; });
-
-    QTabWidget window;
-    window.setWindowTitle(QStringLiteral("ko_qtToolkit_cxx gallery (interface %1)")
-                              .arg(ko::qtToolkit::getInterfaceVersion()));
-    for (const gallery::Page &page : pages)
-        window.addTab(page.create(), page.title);
-
-    // The theme switch: the application's sheet is replaced, and Qt restyles every widget.
-    auto *darkTheme = new QPushButton(QStringLiteral("Dark theme"));
-    darkTheme->setCheckable(true);
-    darkTheme->setFocusPolicy(Qt::NoFocus);
-    QObject::connect(darkTheme, &QPushButton::toggled, &app, [&app, &lightSheet, &darkSheet](bool dark) {
-        app.setStyleSheet(dark ? darkSheet : lightSheet);
-    });
-    window.setCornerWidget(darkTheme, Qt::TopRightCorner);
-
-    window.resize(1024, 720);
+    gallery::Window window;
+    if (parser.isSet(size)) {
+        const QRegularExpressionMatch match =
+            QRegularExpression(QStringLiteral("^(\\d+)x(\\d+)$")).match(parser.value(size));
+        if (!match.hasMatch()) {
+            QTextStream(stderr) << "--size wants <width>x<height>, such as 800x480\n";
+            return 2;
+        }
+        window.resize(match.captured(1).toInt(), match.captured(2).toInt());
+    }
     window.show();
 
-    if (parser.isSet(screenshot))
-        return renderScreenshots(window, *darkTheme, parser.value(screenshot));
+    if (parser.isSet(screenshot)) {
+        QTextStream out(stdout);
+        return window.renderScreenshots(parser.value(screenshot), out) ? 0 : 1;
+    }
     return app.exec();
 }

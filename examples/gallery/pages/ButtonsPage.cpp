@@ -22,8 +22,11 @@
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
+#include <QScrollArea>
 #include <QSplitter>
 #include <QVBoxLayout>
+
+#include <memory>
 
 namespace {
 
@@ -85,11 +88,12 @@ QWidget *createSwitches()
     mute->button(1)->setProperty("class", QStringLiteral("critical"));
     mute->setOn(true);
 
+    // Back to the states the page opened with: phantom power off, the channel muted.
     auto *reset = new Button(QStringLiteral("Reset both"));
     QObject::connect(reset, &QPushButton::clicked, phantom, [phantom, mute, phantomState] {
         // The silent setters do not report, so the label is updated here.
         phantom->setOff(true);
-        mute->setOff(true);
+        mute->setOn(true);
         phantomState->setText(QStringLiteral("48 V off"));
     });
     auto *withIcon = new Button(QIcon(QStringLiteral(":/ic_check_box_white_24px.svg")), QStringLiteral("Apply"));
@@ -214,12 +218,42 @@ QWidget *createButtonsPage()
 {
     auto *page = new QWidget;
     auto *layout = new QGridLayout(page);
-    layout->addWidget(createGroups(), 0, 0);
-    layout->addWidget(createSwitches(), 0, 1);
-    layout->addWidget(createComboBoxes(), 0, 2);
-    layout->addWidget(createElision(), 1, 0, 1, 3);
-    layout->setRowStretch(0, 1);
-    return page;
+    QWidget *groups = createGroups();
+    QWidget *switches = createSwitches();
+    QWidget *comboBoxes = createComboBoxes();
+    QWidget *elision = createElision();
+
+    // Three boxes side by side above the elided labels where they fit; on narrower panels the
+    // combo boxes take a row of their own and the page scrolls down.
+    struct State
+    {
+        bool narrow = true;
+        int wideWidth = 0;
+    };
+    auto state = std::make_shared<State>();
+    auto arrange = [page, layout, groups, switches, comboBoxes, elision, state](int width) {
+        if (!state->narrow)
+            state->wideWidth = layout->minimumSize().width();
+        const bool narrow = width < state->wideWidth;
+        if (narrow == state->narrow)
+            return;
+        state->narrow = narrow;
+        for (QWidget *box : {groups, switches, comboBoxes, elision})
+            layout->removeWidget(box);
+        layout->addWidget(groups, 0, 0);
+        layout->addWidget(switches, 0, 1);
+        if (narrow) {
+            layout->addWidget(comboBoxes, 1, 0, 1, 2);
+            layout->addWidget(elision, 2, 0, 1, 2);
+        } else {
+            layout->addWidget(comboBoxes, 0, 2);
+            layout->addWidget(elision, 1, 0, 1, 3);
+        }
+        layout->setRowStretch(0, 1);
+        page->updateGeometry();
+    };
+    arrange(QWIDGETSIZE_MAX);
+    return gallery::scrollable(page, arrange);
 }
 
 const gallery::PageRegistration registration{40, QStringLiteral("Buttons"), createButtonsPage};

@@ -108,6 +108,9 @@ QWidget *createChartsPage()
     level->setTitleText(QStringLiteral("Level"));
     level->setLabelFormat(QStringLiteral("%g"));
     level->setMinorLabelsColor(QColor(0x4a, 0x7a, 0xb5));
+    // On a small panel the plot is too narrow for every minor label; on the desktop none overlap.
+    time->setHideOverlappingLabels(true);
+    level->setHideOverlappingLabels(true);
 
     chart->addAxis(time, Qt::AlignBottom);
     chart->addAxis(level, Qt::AlignLeft);

@@ -20,11 +20,13 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRandomGenerator>
+#include <QScrollArea>
 #include <QSpinBox>
 #include <QTimer>
 #include <QVBoxLayout>
 
 #include <cmath>
+#include <memory>
 
 namespace {
 
@@ -40,8 +42,8 @@ QWidget *createFaders()
 {
     auto *box = new QGroupBox(QStringLiteral("Faders"));
     auto *layout = new QVBoxLayout(box);
-    auto *hint = new QLabel(QStringLiteral("Grab a handle. Drag along the fader first for fine steps,\n"
-                                           "across it first for coarse steps of 10.\n"
+    auto *hint = new QLabel(QStringLiteral("Grab a handle. Drag along the fader first for fine steps, "
+                                           "across it first for coarse steps of 10. "
                                            "Double-tap a handle to reset it to 50."));
     hint->setWordWrap(true);
     layout->addWidget(hint);
@@ -182,6 +184,8 @@ QWidget *createMeterWall()
     auto *box = new QGroupBox(QStringLiteral("Level meters"));
     auto *layout = new QVBoxLayout(box);
     auto *grid = new QGridLayout;
+    // Close enough for the wall to fit beside the faders on a 1024-pixel panel.
+    grid->setHorizontalSpacing(4);
     // The scale before the first meter, its marks facing it: same height, same top.
     auto *scale = new LevelScale;
     scale->setMirrored(true);
@@ -237,11 +241,44 @@ QWidget *createMeterWall()
 QWidget *createFadersPage()
 {
     auto *page = new QWidget;
-    auto *layout = new QHBoxLayout(page);
-    layout->addWidget(createFaders());
-    layout->addWidget(createDataFader());
-    layout->addWidget(createMeterWall(), 1);
-    return page;
+    auto *layout = new QGridLayout(page);
+    QWidget *faders = createFaders();
+    QWidget *dataFader = createDataFader();
+    QWidget *meters = createMeterWall();
+
+    // The faders beside the meter wall where they fit; on narrower panels the wall goes below
+    // them and the page scrolls down.
+    struct State
+    {
+        bool narrow = true;
+        int wideWidth = 0;
+    };
+    auto state = std::make_shared<State>();
+    auto arrange = [page, layout, faders, dataFader, meters, state](int width) {
+        if (!state->narrow)
+            state->wideWidth = layout->minimumSize().width();
+        const bool narrow = width < state->wideWidth;
+        if (narrow == state->narrow)
+            return;
+        state->narrow = narrow;
+        layout->removeWidget(meters);
+        if (narrow) {
+            layout->addWidget(meters, 1, 0, 1, 2);
+            layout->setColumnStretch(0, 2);
+            layout->setColumnStretch(1, 1);
+            layout->setColumnStretch(2, 0);
+        } else {
+            layout->addWidget(meters, 0, 2);
+            layout->setColumnStretch(0, 0);
+            layout->setColumnStretch(1, 0);
+            layout->setColumnStretch(2, 1);
+        }
+        page->updateGeometry();
+    };
+    layout->addWidget(faders, 0, 0);
+    layout->addWidget(dataFader, 0, 1);
+    arrange(QWIDGETSIZE_MAX);
+    return gallery::scrollable(page, arrange);
 }
 
 const gallery::PageRegistration registration{30, QStringLiteral("Faders"), createFadersPage};

@@ -66,6 +66,11 @@ const Field fields[] = {
     {"Delay", 0.0, 500.0, 1, "ms", "12.5", true},
 };
 
+QString initialName()
+{
+    return QStringLiteral("Lead vocal, stage left, wireless handheld transmitter 3");
+}
+
 // Keeps the keypad inside the gallery window, wherever the window goes.
 class KeypadArea : public QObject
 {
@@ -122,7 +127,7 @@ QWidget *createFieldsBox(QVector<widget::TextEntry *> &numeric, widget::TextEntr
     name->setNumeric(false);
     name->setValidator(nullptr);
     name->setPlaceholderText(QStringLiteral("Channel name"));
-    name->setText(QStringLiteral("Lead vocal, stage left, wireless handheld transmitter 3"));
+    name->setText(initialName());
     form->addRow(QStringLiteral("Name (text, elided)"), name);
     return box;
 }
@@ -185,7 +190,7 @@ QWidget *createValueEntryPage()
             return;
         for (int i = 0; i < numeric.size(); ++i)
             numeric.at(i)->setText(QString::fromLatin1(fields[i].initial));
-        name->setText(QString());
+        name->setText(initialName());
     });
     left->addWidget(reset);
 
