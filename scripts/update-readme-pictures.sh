@@ -1,4 +1,9 @@
 #!/usr/bin/env bash
+
+# SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+#
+# SPDX-License-Identifier: MIT
+
 # Regenerates the pictures README.md shows from the programs' screenshot mode, so that they never
 # show an old version: builds if needed, runs each program named below with `--screenshot DIR`
 # offscreen, and copies the screenshots into place. Fails when README.md shows a picture under
@@ -8,7 +13,8 @@
 # copied from, as <program>/<file>. <program> is an executable target of the build that writes
 # its screenshots into the folder given to `--screenshot`; <file> is one of them. A number
 # before the gallery's page names (05-faders.png) may be written ?? (??-faders.png) so that
-# the line survives a new page.
+# the line survives a new page. A program named alone, without /<file>, renders one picture with
+# `--screenshot FILE`, as the examples do.
 set -euo pipefail
 repo=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
@@ -16,6 +22,9 @@ pictures=(
   "docs/gallery.png                ko-qttoolkit-gallery/??-faders.png"
   "docs/gallery-dark.png           ko-qttoolkit-gallery/??-buttons-dark.png"
   "docs/frequency-response.png     ko-qttoolkit-gallery/??-frequency-response.png"
+  "docs/example-channel-strip.png  ko-qttoolkit-channel-strip"
+  "docs/example-equaliser.png      ko-qttoolkit-equaliser"
+  "docs/example-settings-form.png  ko-qttoolkit-settings-form"
 )
 
 build=${KO_BUILD_DIR:-$repo/build}
@@ -46,6 +55,16 @@ for line in "${pictures[@]}"; do
   read -r destination source <<<"$line"
   program=${source%%/*}
   file=${source#*/}
+  if [ "$file" = "$source" ]; then
+    cmake --build "$build" --target "$program" >/dev/null
+    executable=$(find "$build" -type f -name "$program" -perm -u+x | head -n 1)
+    [ -n "$executable" ] || { echo "no executable $program in $build" >&2; exit 1; }
+    QT_QPA_PLATFORM=offscreen "$executable" --screenshot "$scratch/$program.png" >/dev/null 2>&1
+    [ -s "$scratch/$program.png" ] || { echo "$program made no screenshot" >&2; exit 1; }
+    cp "$scratch/$program.png" "$repo/$destination"
+    echo "$destination <- $program"
+    continue
+  fi
   if [ -z "${rendered[$program]:-}" ]; then
     cmake --build "$build" --target "$program" >/dev/null
     executable=$(find "$build" -type f -name "$program" -perm -u+x | head -n 1)

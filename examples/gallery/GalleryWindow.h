@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 #ifndef KO_QTTOOLKIT_GALLERY_GALLERYWINDOW_H
 #define KO_QTTOOLKIT_GALLERY_GALLERYWINDOW_H
 

@@ -1,3 +1,7 @@
+// SPDX-FileCopyrightText: 2026 The ko_qtToolkit_cxx authors
+//
+// SPDX-License-Identifier: MIT
+
 // Every page of the gallery at every window size it is made for, in both themes: each widget that
 // a page's layouts place lies inside its parent, so inside the window or inside the scroll area
 // that reaches it, is at least as large as it asks to be, and overlaps none of its siblings. The
