@@ -5,8 +5,11 @@
 #include "GalleryPage.h"
 
 #include <QEvent>
+#include <QLayout>
 #include <QScrollArea>
 #include <QScrollBar>
+
+#include <memory>
 
 namespace gallery {
 
@@ -59,6 +62,29 @@ QScrollArea *scrollable(QWidget *contents, std::function<void(int width)> arrang
     if (arrange)
         new WidthWatcher(area, std::move(arrange));
     return area;
+}
+
+QScrollArea *reflowing(QWidget *contents, QLayout *layout, std::function<void(bool narrow)> place)
+{
+    struct State
+    {
+        bool narrow = true;
+        // The smallest width of the wide arrangement, measured while it is in place.
+        int wideWidth = 0;
+    };
+    auto state = std::make_shared<State>();
+    auto arrange = [contents, layout, place = std::move(place), state](int width) {
+        if (!state->narrow)
+            state->wideWidth = layout->minimumSize().width();
+        const bool narrow = width < state->wideWidth;
+        if (narrow == state->narrow)
+            return;
+        state->narrow = narrow;
+        place(narrow);
+        contents->updateGeometry();
+    };
+    arrange(QWIDGETSIZE_MAX);
+    return scrollable(contents, std::move(arrange));
 }
 
 } // namespace gallery

@@ -10,6 +10,7 @@
 
 #include <functional>
 
+class QLayout;
 class QScrollArea;
 class QWidget;
 
@@ -41,6 +42,13 @@ struct PageRegistration
  * has, so that the page can reflow into fewer columns instead of scrolling sideways.
  */
 QScrollArea *scrollable(QWidget *contents, std::function<void(int width)> arrange = {});
+
+/**
+ * scrollable() for a page with a wide and a narrow arrangement of its boxes in \a layout:
+ * \a place(narrow) puts them in one or the other. The wide one is used while the page is at
+ * least as wide as the wide arrangement needs; narrower panels get the narrow one.
+ */
+QScrollArea *reflowing(QWidget *contents, QLayout *layout, std::function<void(bool narrow)> place);
 
 } // namespace gallery
 

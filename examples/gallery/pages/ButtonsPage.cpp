@@ -26,8 +26,6 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
-#include <memory>
-
 namespace {
 
 using namespace ko::qtToolkit::widget;
@@ -225,19 +223,7 @@ QWidget *createButtonsPage()
 
     // Three boxes side by side above the elided labels where they fit; on narrower panels the
     // combo boxes take a row of their own and the page scrolls down.
-    struct State
-    {
-        bool narrow = true;
-        int wideWidth = 0;
-    };
-    auto state = std::make_shared<State>();
-    auto arrange = [page, layout, groups, switches, comboBoxes, elision, state](int width) {
-        if (!state->narrow)
-            state->wideWidth = layout->minimumSize().width();
-        const bool narrow = width < state->wideWidth;
-        if (narrow == state->narrow)
-            return;
-        state->narrow = narrow;
+    return gallery::reflowing(page, layout, [layout, groups, switches, comboBoxes, elision](bool narrow) {
         for (QWidget *box : {groups, switches, comboBoxes, elision})
             layout->removeWidget(box);
         layout->addWidget(groups, 0, 0);
@@ -250,10 +236,7 @@ QWidget *createButtonsPage()
             layout->addWidget(elision, 1, 0, 1, 3);
         }
         layout->setRowStretch(0, 1);
-        page->updateGeometry();
-    };
-    arrange(QWIDGETSIZE_MAX);
-    return gallery::scrollable(page, arrange);
+    });
 }
 
 const gallery::PageRegistration registration{40, QStringLiteral("Buttons"), createButtonsPage};

@@ -26,7 +26,6 @@
 #include <QVBoxLayout>
 
 #include <cmath>
-#include <memory>
 
 namespace {
 
@@ -248,19 +247,9 @@ QWidget *createFadersPage()
 
     // The faders beside the meter wall where they fit; on narrower panels the wall goes below
     // them and the page scrolls down.
-    struct State
-    {
-        bool narrow = true;
-        int wideWidth = 0;
-    };
-    auto state = std::make_shared<State>();
-    auto arrange = [page, layout, faders, dataFader, meters, state](int width) {
-        if (!state->narrow)
-            state->wideWidth = layout->minimumSize().width();
-        const bool narrow = width < state->wideWidth;
-        if (narrow == state->narrow)
-            return;
-        state->narrow = narrow;
+    layout->addWidget(faders, 0, 0);
+    layout->addWidget(dataFader, 0, 1);
+    return gallery::reflowing(page, layout, [layout, meters](bool narrow) {
         layout->removeWidget(meters);
         if (narrow) {
             layout->addWidget(meters, 1, 0, 1, 2);
@@ -273,12 +262,7 @@ QWidget *createFadersPage()
             layout->setColumnStretch(1, 0);
             layout->setColumnStretch(2, 1);
         }
-        page->updateGeometry();
-    };
-    layout->addWidget(faders, 0, 0);
-    layout->addWidget(dataFader, 0, 1);
-    arrange(QWIDGETSIZE_MAX);
-    return gallery::scrollable(page, arrange);
+    });
 }
 
 const gallery::PageRegistration registration{30, QStringLiteral("Faders"), createFadersPage};
