@@ -23,7 +23,10 @@ int main(int argc, char *argv[])
     Ui::ChannelStrip ui;
     ui.setupUi(&strip);
 
-    // What the form cannot say: the meter follows the fader, muted while the switch is off.
+    // What the form cannot say: a double tap on the handle resets the fader to 0 dB, the meter
+    // follows the fader, muted while the switch is off.
+    ui.fader->setDefaultValue(60);
+    ui.fader->setResetOnDoubleTapEnabled(true);
     QObject::connect(ui.fader, &QSlider::valueChanged, ui.meter, [&ui](int value) {
         ui.meter->setLevel(static_cast<float>(value) - 60.0f);
     });
@@ -33,7 +36,7 @@ int main(int argc, char *argv[])
 
     if (app.arguments().contains(QStringLiteral("--check"))) {
         QTextStream out(stdout);
-        const bool ok = ui.fader->maximum() == 75 && ui.fader->value() == 48
+        const bool ok = ui.fader->maximum() == 75 && ui.fader->value() == 48 && ui.fader->defaultValue() == 60
             && ui.meter->level() == -12.0f && ui.name->text() == QStringLiteral("Channel 1")
             && ui.gain->suffix() == QStringLiteral("dB") && ui.solo->text() == QStringLiteral("Solo")
             && ui.power->isOff() && ui.source->count() == 3;

@@ -224,10 +224,8 @@ void tst_DesignerPlugin::uiLoader()
 
     auto *fader = form->findChild<Fader *>(QStringLiteral("fader"));
     QCOMPARE(fader->orientation(), Qt::Vertical);
-    QVERIFY(fader->isResetOnDoubleTapEnabled());
     QCOMPARE(fader->maximum(), 50);
     QCOMPARE(fader->value(), 30);
-    QCOMPARE(fader->defaultValue(), 10);
 
     auto *dataFader = form->findChild<GenericDataFader *>(QStringLiteral("genericDataFader"));
     QCOMPARE(dataFader->orientation(), Qt::Vertical);

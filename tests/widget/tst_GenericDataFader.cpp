@@ -483,7 +483,6 @@ void tst_GenericDataFader::defaultData()
         fader.setDefaultData(setTo);
     QCOMPARE(fader.defaultValue(), value);
     QCOMPARE(fader.defaultData(), data);
-    QCOMPARE(asFloat(fader.property("defaultData")), data);
     // Setting the default leaves the data alone.
     QCOMPARE(fader.getData(), maximum);
     QCOMPARE(spy.count(), 0);
@@ -497,8 +496,7 @@ void tst_GenericDataFader::defaultDataFollowsTheDecimals()
     QCOMPARE(fader.defaultValue(), -50);
     QCOMPARE(fader.defaultData(), -5.0f);
 
-    // Set through the property, as a form or a style would.
-    QVERIFY(fader.setProperty("defaultData", 2.5f));
+    fader.setDefaultData(2.5f);
     QCOMPARE(fader.defaultValue(), 25);
     fader.setNumberOfDecimals(2);
     QCOMPARE(fader.defaultValue(), 250);

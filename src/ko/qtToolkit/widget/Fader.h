@@ -46,12 +46,6 @@ class KO_QTTOOLKIT_EXPORT Fader : public QSlider
     Q_OBJECT
     /// Whether the handle is held; see isSliding(). Notified by slidingChanged().
     Q_PROPERTY(bool isSliding READ isSliding NOTIFY slidingChanged)
-    /// The value a double tap on the handle resets the fader to; see defaultValue().
-    Q_PROPERTY(int defaultValue READ defaultValue WRITE setDefaultValue)
-    /// Whether a double tap on the handle resets the value; see isResetOnDoubleTapEnabled().
-    Q_PROPERTY(bool resetOnDoubleTapEnabled READ isResetOnDoubleTapEnabled WRITE setResetOnDoubleTapEnabled)
-    /// How far a drag moves the value; see dragMode().
-    Q_PROPERTY(DragMode dragMode READ dragMode WRITE setDragMode)
 
 public:
     /**
@@ -72,7 +66,6 @@ public:
         /// of the range in both modes.
         FullRangeDrag
     };
-    Q_ENUM(DragMode)
 
     /**
      * \brief A vertical fader.

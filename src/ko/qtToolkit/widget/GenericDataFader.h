@@ -35,8 +35,6 @@ class KO_QTTOOLKIT_EXPORT GenericDataFader : public Fader
     Q_OBJECT
     /// The fader's value in data units; see getData() and setData(). Notified by dataChanged().
     Q_PROPERTY(float GenericFaderData READ getData WRITE setData NOTIFY dataChanged)
-    /// The data a double tap on the handle resets the fader to; see defaultData().
-    Q_PROPERTY(float defaultData READ defaultData WRITE setDefaultData)
 
 public:
     /**
