@@ -44,6 +44,17 @@ QtCharts::QLineSeries *createLevelSeries()
     return series;
 }
 
+// The level series on \a chart, over \a time at the bottom and \a level at the left.
+void plotLevelOverTime(QtCharts::QChart *chart, charts::LinearAxis *time, charts::LogarithmicAxis *level)
+{
+    chart->addAxis(time, Qt::AlignBottom);
+    chart->addAxis(level, Qt::AlignLeft);
+    auto *series = createLevelSeries();
+    chart->addSeries(series);
+    series->attachAxis(time);
+    series->attachAxis(level);
+}
+
 // A narrow chart of the same level over time, too narrow for every label its axes make: those
 // that would overlap are hidden, major labels kept before minor ones.
 QWidget *createNarrowChart(charts::LogarithmicAxisTicker *decades)
@@ -62,12 +73,7 @@ QWidget *createNarrowChart(charts::LogarithmicAxisTicker *decades)
     level->setLabelFormat(QStringLiteral("%g"));
     level->setMinorLabelsColor(QColor(0x4a, 0x7a, 0xb5));
     level->setHideOverlappingLabels(true);
-    chart->addAxis(time, Qt::AlignBottom);
-    chart->addAxis(level, Qt::AlignLeft);
-    auto *series = createLevelSeries();
-    chart->addSeries(series);
-    series->attachAxis(time);
-    series->attachAxis(level);
+    plotLevelOverTime(chart, time, level);
 
     auto *view = new QtCharts::QChartView(chart);
     view->setRenderHint(QPainter::Antialiasing);
@@ -112,12 +118,7 @@ QWidget *createChartsPage()
     time->setHideOverlappingLabels(true);
     level->setHideOverlappingLabels(true);
 
-    chart->addAxis(time, Qt::AlignBottom);
-    chart->addAxis(level, Qt::AlignLeft);
-    auto *series = createLevelSeries();
-    chart->addSeries(series);
-    series->attachAxis(time);
-    series->attachAxis(level);
+    plotLevelOverTime(chart, time, level);
 
     auto *view = new gallery::PanZoomChartView(chart, time, {-1e9, 1e9, 0.5, 1e6}, level, {1e-3, 1e7, 1e-2, 1e7});
     view->setMinimumSize(480, 320);

@@ -59,6 +59,7 @@ public:
     void updateOpaque();
     void followPeak(qint64 now);
     void holdPeakAt(float level, qint64 now);
+    void updatePeakLine(int before, int after);
     QRect peakLine() const;
     QRect clipCap() const;
     float effectiveClipLevel() const;
@@ -348,7 +349,13 @@ void LevelMeterPrivate::followPeak(qint64 now)
     peakTime = now;
     if (!(peak > level))
         holdPeakAt(level, now);
-    const int after = litLengthOf(peak);
+    updatePeakLine(before, litLengthOf(peak));
+}
+
+// Asks for a repaint where the peak line was and where it is, given as the lit lengths of the
+// peak before and after: the line is the last two lit pixels.
+void LevelMeterPrivate::updatePeakLine(int before, int after)
+{
     if (after != before)
         updateBetween(std::max(std::min(before, after) - 2, 0), std::max(before, after));
 }
@@ -585,9 +592,7 @@ void LevelMeter::resetPeak()
         return;
     const int before = d->litLengthOf(d->peak);
     d->holdPeakAt(d->level, meterClock());
-    const int after = d->litLengthOf(d->peak);
-    if (after != before)
-        d->updateBetween(std::max(std::min(before, after) - 2, 0), std::max(before, after));
+    d->updatePeakLine(before, d->litLengthOf(d->peak));
 }
 
 bool LevelMeter::isClipLatchEnabled() const
