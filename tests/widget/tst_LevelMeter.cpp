@@ -1247,16 +1247,16 @@ void tst_LevelMeter::levelChangeRepaintsTheChangedStrip_data()
 
     // 20 by 200 (or 200 by 20) at (11, 7) in its window, bar range 0 to 100: -20 lights 105
     // pixels, +10 lights 186, -55 lights 12, +15 the whole inside of 198. The strip between two
-    // lengths reaches out to the window's 16-pixel grid (rows 0, 16, 32... of the window), within
-    // the inside: rows 94 to 198 of the meter are 101 to 205 of the window, widened to 96 to 207.
-    QTest::newRow("vertical rising from nothing") << Qt::Vertical << -60.0f << -20.0f << QRect(1, 89, 18, 110);
-    QTest::newRow("vertical falling to nothing") << Qt::Vertical << -20.0f << -60.0f << QRect(1, 89, 18, 110);
-    QTest::newRow("vertical rising between zones") << Qt::Vertical << -20.0f << 10.0f << QRect(1, 9, 18, 96);
-    QTest::newRow("vertical falling between zones") << Qt::Vertical << 10.0f << -20.0f << QRect(1, 9, 18, 96);
-    QTest::newRow("vertical to full") << Qt::Vertical << 10.0f << 15.0f << QRect(1, 1, 18, 24);
-    QTest::newRow("horizontal rising from nothing") << Qt::Horizontal << -60.0f << -55.0f << QRect(1, 1, 20, 18);
-    QTest::newRow("horizontal rising") << Qt::Horizontal << -55.0f << -20.0f << QRect(5, 1, 112, 18);
-    QTest::newRow("horizontal falling from full") << Qt::Horizontal << 15.0f << 10.0f << QRect(181, 1, 18, 18);
+    // lengths reaches out to the window's 40-pixel grid (rows 0, 40, 80... of the window), within
+    // the inside: rows 94 to 198 of the meter are 101 to 205 of the window, widened to 80 to 205.
+    QTest::newRow("vertical rising from nothing") << Qt::Vertical << -60.0f << -20.0f << QRect(1, 73, 18, 126);
+    QTest::newRow("vertical falling to nothing") << Qt::Vertical << -20.0f << -60.0f << QRect(1, 73, 18, 126);
+    QTest::newRow("vertical rising between zones") << Qt::Vertical << -20.0f << 10.0f << QRect(1, 1, 18, 112);
+    QTest::newRow("vertical falling between zones") << Qt::Vertical << 10.0f << -20.0f << QRect(1, 1, 18, 112);
+    QTest::newRow("vertical to full") << Qt::Vertical << 10.0f << 15.0f << QRect(1, 1, 18, 32);
+    QTest::newRow("horizontal rising from nothing") << Qt::Horizontal << -60.0f << -55.0f << QRect(1, 1, 28, 18);
+    QTest::newRow("horizontal rising") << Qt::Horizontal << -55.0f << -20.0f << QRect(1, 1, 108, 18);
+    QTest::newRow("horizontal falling from full") << Qt::Horizontal << 15.0f << 10.0f << QRect(149, 1, 50, 18);
 }
 
 void tst_LevelMeter::levelChangeRepaintsTheChangedStrip()
@@ -1283,7 +1283,7 @@ void tst_LevelMeter::levelChangeRepaintsTheChangedStrip()
 }
 
 // Side by side, meters at different levels repaint strips whose ends lie on the window's
-// 16-pixel grid (or on the edges of the insides), so that the strips of a whole wall end on few
+// 40-pixel grid (or on the edges of the insides), so that the strips of a whole wall end on few
 // rows.
 void tst_LevelMeter::stripsOfAWallEndOnTheWindowGrid()
 {
@@ -1320,15 +1320,15 @@ void tst_LevelMeter::stripsOfAWallEndOnTheWindowGrid()
             const QRect strip = region.boundingRect().translated(meters[std::size_t(i)]->pos());
             QCOMPARE(strip.left(), 5 + 20 * i + 1);
             QCOMPARE(strip.width(), 18);
-            QVERIFY2(strip.top() == 10 || strip.top() % 16 == 0, qPrintable(QString::number(strip.top())));
-            QVERIFY2(strip.bottom() == 207 || strip.bottom() % 16 == 15, qPrintable(QString::number(strip.bottom())));
+            QVERIFY2(strip.top() == 10 || strip.top() % 40 == 0, qPrintable(QString::number(strip.top())));
+            QVERIFY2(strip.bottom() == 207 || strip.bottom() % 40 == 39, qPrintable(QString::number(strip.bottom())));
             ends << strip.top() << strip.bottom();
             ++strips;
         }
     }
     // Every meter but the first changed in the first frame, and every one in the second.
     QCOMPARE(strips, 2 * count - 1);
-    QVERIFY(ends.size() <= 200 / 16 * 2 + 2);
+    QVERIFY(ends.size() <= 200 / 40 * 2 + 2);
 }
 
 void tst_LevelMeter::noRepaintWhileTheLitLengthStays_data()
@@ -1424,6 +1424,11 @@ void tst_LevelMeter::stripsPaintTheSamePixelsAsAFullRepaint_data()
     QTest::newRow("translucent low colour") << Qt::Vertical << QSize(20, 200) << QStringLiteral("translucent low");
     QTest::newRow("thresholds at the ends") << Qt::Vertical << QSize(20, 200) << QStringLiteral("thresholds at the ends");
     QTest::newRow("turned after sizing") << Qt::Horizontal << QSize(60, 60) << QStringLiteral("turned");
+    QTest::newRow("peak hold") << Qt::Vertical << QSize(20, 200) << QStringLiteral("peak hold");
+    QTest::newRow("peak hold, horizontal") << Qt::Horizontal << QSize(200, 20) << QStringLiteral("peak hold");
+    QTest::newRow("clip latch") << Qt::Vertical << QSize(20, 200) << QStringLiteral("clip latch");
+    QTest::newRow("translucent high colour, peak hold")
+        << Qt::Vertical << QSize(20, 200) << QStringLiteral("translucent high, peak hold");
 }
 
 void tst_LevelMeter::stripsPaintTheSamePixelsAsAFullRepaint()
@@ -1448,6 +1453,14 @@ void tst_LevelMeter::stripsPaintTheSamePixelsAsAFullRepaint()
     } else if (look == QLatin1String("thresholds at the ends")) {
         meter.setHighThresholdLevel(15.0f);
         meter.setMediumThresholdLevel(-60.0f);
+    } else if (look == QLatin1String("peak hold")) {
+        meter.setPeakHoldEnabled(true);
+    } else if (look == QLatin1String("clip latch")) {
+        meter.setClipLatchEnabled(true);
+        meter.setClipLevel(10.0f);
+    } else if (look == QLatin1String("translucent high, peak hold")) {
+        meter.setHighColor(QColor(255, 0, 0, 90));
+        meter.setPeakHoldEnabled(true);
     }
     QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
     if (look == QLatin1String("turned"))

@@ -10,6 +10,7 @@
 #include <ko/qtToolkit/common/Numeric_p.h>
 
 #include <QElapsedTimer>
+#include <QImage>
 #include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -18,7 +19,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <limits>
+#include <vector>
 
 namespace ko::qtToolkit::widget {
 
@@ -44,6 +47,16 @@ private:
     bool m_pressed = false;
 };
 
+// The colours of a meter's gradient along the meter, as QPainter paints them into an image of a
+// given format: one per row for a gradient along the height, one per column for one along the
+// width. They change only with the gradient and the size.
+struct GradientPixels
+{
+    QImage::Format format = QImage::Format_Invalid;
+    bool alongHeight = true;
+    std::vector<QRgb> pixels;
+};
+
 class LevelMeterPrivate
 {
 public:
@@ -59,12 +72,17 @@ public:
     void updateOpaque();
     void followPeak(qint64 now);
     void holdPeakAt(float level, qint64 now);
-    void updatePeakLine(int before, int after);
+    void updatePeakLine(float before);
     QRect peakLine() const;
     QRect clipCap() const;
     float effectiveClipLevel() const;
     void setClipped(bool clipped);
     const QColor &zoneColor(float level) const;
+    bool isWashedOut() const;
+    bool paintsOnlyOpaqueColors() const;
+    const GradientPixels &gradientPixels(QImage::Format format) const;
+    template <typename Canvas>
+    void paint(Canvas &canvas, const QRect &area) const;
 
     LevelMeter *const q;
     // The gradient is kept as a brush so that painting allocates nothing.
@@ -104,24 +122,150 @@ public:
     int shownValue;
     // Whether no stop of the gradient is translucent; follows the gradient.
     bool gradientOpaque = false;
+    // Whether the gradient runs along the height; it was built for the orientation of its time.
+    bool gradientAlongHeight = true;
+    // Made on the first paint that needs them; emptied when the gradient is rebuilt.
+    mutable GradientPixels gradientCache;
 };
 
 namespace {
 
 // The one-pixel outline along the edge of \a rect. Filled rather than stroked: a pen costs far
 // more than the few pixels it draws.
-void fillOutline(QPainter &painter, const QRect &rect, const QColor &color)
+template <typename Canvas>
+void fillOutline(Canvas &canvas, const QRect &rect, const QColor &color)
 {
     if (rect.isEmpty())
         return;
-    painter.fillRect(rect.left(), rect.top(), rect.width(), 1, color);
+    canvas.fill({rect.left(), rect.top(), rect.width(), 1}, color);
     if (rect.height() > 1)
-        painter.fillRect(rect.left(), rect.bottom(), rect.width(), 1, color);
+        canvas.fill({rect.left(), rect.bottom(), rect.width(), 1}, color);
     if (rect.height() > 2) {
-        painter.fillRect(rect.left(), rect.top() + 1, 1, rect.height() - 2, color);
-        painter.fillRect(rect.right(), rect.top() + 1, 1, rect.height() - 2, color);
+        canvas.fill({rect.left(), rect.top() + 1, 1, rect.height() - 2}, color);
+        canvas.fill({rect.right(), rect.top() + 1, 1, rect.height() - 2}, color);
     }
 }
+
+// Paints a meter through QPainter, on whatever the meter is painted on.
+class PainterCanvas
+{
+public:
+    PainterCanvas(QWidget *meter, const QBrush &gradient)
+        : m_painter(meter)
+        , m_gradient(gradient)
+    {
+    }
+
+    void fill(const QRect &rect, const QColor &color) { m_painter.fillRect(rect, color); }
+    void fillGradient(const QRect &rect) { m_painter.fillRect(rect, m_gradient); }
+
+private:
+    QPainter m_painter;
+    const QBrush &m_gradient;
+};
+
+// The common part of \a a and \a b, empty when they do not meet. QRect::operator&() is not
+// inline, and a meter's paint takes a dozen intersections.
+QRect meet(const QRect &a, const QRect &b)
+{
+    return {QPoint(std::max(a.left(), b.left()), std::max(a.top(), b.top())),
+            QPoint(std::min(a.right(), b.right()), std::min(a.bottom(), b.bottom()))};
+}
+
+// Sets \a count pixels from \a row on to \a pixel. A meter's rows are short, and a call to a
+// general fill would cost more than the row: this writes four pixels a store, the last four
+// overlapping the ones before when the count is not a multiple of four.
+void fillRow(QRgb *row, int count, QRgb pixel)
+{
+    if (count < 4) {
+        std::fill_n(row, count, pixel);
+        return;
+    }
+    const QRgb four[4] = {pixel, pixel, pixel, pixel};
+    QRgb *const lastFour = row + count - 4;
+    for (; row < lastFour; row += 4)
+        std::memcpy(row, four, sizeof four);
+    std::memcpy(lastFour, four, sizeof four);
+}
+
+// Paints a meter by writing the pixels of the window's raster backing store. A meter is a few
+// opaque rectangles whose pixels are known beforehand; writing them costs a fraction of beginning
+// a QPainter on the backing store, which on a wall of meters every meter would do every frame.
+// Only opaque paint is written, over a 32-bit image at one device pixel per pixel, so each pixel
+// is exactly what QPainter would have given it.
+class BackingStoreCanvas
+{
+public:
+    // Whether \a device, the meter's paint is redirected to, is an image this canvas can write.
+    static bool canWrite(const QPaintDevice *device)
+    {
+        if (device == nullptr || device->devType() != QInternal::Image)
+            return false;
+        const auto &image = static_cast<const QImage &>(*device);
+        const QImage::Format format = image.format();
+        // A shared image would detach on writing, and the backing store would not see the pixels.
+        return (format == QImage::Format_RGB32 || format == QImage::Format_ARGB32
+                || format == QImage::Format_ARGB32_Premultiplied)
+            && image.devicePixelRatio() == 1.0 && image.isDetached();
+    }
+
+    // \a redirection is the offset of the meter's paint redirection: a meter's point p lies at
+    // p - redirection in \a image. Only \a region, in the meter's coordinates, is written.
+    BackingStoreCanvas(QImage &image, const QPoint &redirection, const QRegion &region,
+                       const GradientPixels &gradient)
+        : m_bits(image.bits())
+        , m_stride(image.bytesPerLine())
+        , m_offset(-redirection)
+        , m_bounds(image.rect().translated(redirection))
+        , m_region(region)
+        , m_gradient(gradient)
+    {
+    }
+
+    void fill(const QRect &rect, const QColor &color)
+    {
+        const QRgb pixel = color.rgba64().toArgb32();
+        forEachRow(rect, [pixel](QRgb *row, int, int, int width) { fillRow(row, width, pixel); });
+    }
+
+    void fillGradient(const QRect &rect)
+    {
+        const std::vector<QRgb> &pixels = m_gradient.pixels;
+        if (m_gradient.alongHeight) {
+            forEachRow(rect, [&pixels](QRgb *row, int y, int, int width) { fillRow(row, width, pixels[y]); });
+        } else {
+            forEachRow(rect, [&pixels](QRgb *row, int, int x, int width) {
+                std::copy_n(pixels.begin() + x, width, row);
+            });
+        }
+    }
+
+private:
+    // Calls \a write(row, y, x, width) for each row of \a rect within the region, with row
+    // pointing at the image's pixel of the meter's (x, y).
+    template <typename Write>
+    void forEachRow(const QRect &rect, Write write)
+    {
+        for (const QRect &part : m_region) {
+            const QRect area = meet(meet(rect, part), m_bounds);
+            if (area.isEmpty())
+                continue;
+            uchar *row = m_bits + qsizetype(area.top() + m_offset.y()) * m_stride
+                + qsizetype(area.left() + m_offset.x()) * qsizetype(sizeof(QRgb));
+            for (int y = area.top(); y <= area.bottom(); ++y, row += m_stride)
+                write(reinterpret_cast<QRgb *>(row), y, area.left(), area.width());
+        }
+    }
+
+    // The image's pixels, written without QImage::scanLine(), which checks for sharing each time.
+    uchar *const m_bits;
+    const qsizetype m_stride;
+    const QPoint m_offset;
+    // The image's rectangle in the meter's coordinates.
+    const QRect m_bounds;
+    const QRegion &m_region;
+    const GradientPixels &m_gradient;
+};
 
 qint64 monotonicMilliseconds()
 {
@@ -138,6 +282,8 @@ LevelMeterClock meterClock = monotonicMilliseconds;
 // The pixels of the clip cap along the meter: the latch shows as a red cap at the top end.
 constexpr int clipCapLength = 4;
 const QColor clipCapColor{0xff0000};
+// Laid over a muted or disabled meter.
+const QColor washColor{255, 255, 255, 128};
 
 // Level ranges are arguments: one that is not finite is refused, as the mapping onto the bar
 // would give NaN.
@@ -187,8 +333,9 @@ private:
 // painting, the backing store unites the update regions of all the widgets of a window into one
 // region; strips that end at different heights side by side, as a wall of meters gives, cut that
 // region into a band per distinct end, and uniting them costs more with every band. On the grid,
-// the strips of a wall share their ends, and painting a few more rows costs far less.
-constexpr int stripGridPitch = 16;
+// the strips of a wall share their ends, and painting a few more rows costs far less. A finer grid
+// leaves more bands to unite, a coarser one more rows to paint; 40 measured best for a wall.
+constexpr int stripGridPitch = 40;
 
 int gridLineAtOrBelow(int position)
 {
@@ -339,7 +486,7 @@ void LevelMeterPrivate::showLevel()
 // that reached it, which holds it anew. The line is repainted where it moved.
 void LevelMeterPrivate::followPeak(qint64 now)
 {
-    const int before = litLengthOf(peak);
+    const float before = peak;
     const qint64 heldUntil = peakHeldSince + peakHoldTime;
     if (now > heldUntil) {
         const qint64 fallingSince = std::max(peakTime, heldUntil);
@@ -349,15 +496,20 @@ void LevelMeterPrivate::followPeak(qint64 now)
     peakTime = now;
     if (!(peak > level))
         holdPeakAt(level, now);
-    updatePeakLine(before, litLengthOf(peak));
+    updatePeakLine(before);
 }
 
-// Asks for a repaint where the peak line was and where it is, given as the lit lengths of the
-// peak before and after: the line is the last two lit pixels.
-void LevelMeterPrivate::updatePeakLine(int before, int after)
+// Asks for a repaint where the peak line was, for the peak \a before, and where it is now. The
+// line is the last two lit pixels; it is repainted in place when it moved into another zone,
+// whose colour it takes, without moving.
+void LevelMeterPrivate::updatePeakLine(float before)
 {
-    if (after != before)
-        updateBetween(std::max(std::min(before, after) - 2, 0), std::max(before, after));
+    const int from = litLengthOf(before);
+    const int to = litLengthOf(peak);
+    if (to != from)
+        updateBetween(std::max(std::min(from, to) - 2, 0), std::max(from, to));
+    else if (to > 0 && zoneColor(peak) != zoneColor(before))
+        updateBetween(std::max(to - 2, 0), to);
 }
 
 void LevelMeterPrivate::holdPeakAt(float level, qint64 now)
@@ -394,6 +546,87 @@ const QColor &LevelMeterPrivate::zoneColor(float level) const
     if (level >= highThresholdLevel)
         return highColor;
     return level > mediumThresholdLevel ? mediumColor : lowColor;
+}
+
+// Fills the meter within \a area (frame, lit zones, unlit part, peak line, clip cap, wash) on
+// \a canvas, each fill over the ones before it.
+template <typename Canvas>
+void LevelMeterPrivate::paint(Canvas &canvas, const QRect &area) const
+{
+    const QRect whole = q->rect();
+    const QRect inside = inner();
+    const bool washedOut = isWashedOut();
+    const QColor &outlineColor = muted ? mutedFrameColor : frameColor;
+    if (!inside.isEmpty()) {
+        const int pixels = litLength(q->value());
+        QRect lit = inside;
+        QRect unlit = inside;
+        if (q->orientation() == Qt::Vertical) {
+            unlit.setHeight(inside.height() - pixels);
+            lit.setTop(unlit.bottom() + 1);
+        } else {
+            lit.setWidth(pixels);
+            unlit.setLeft(lit.right() + 1);
+        }
+        // An opaque background covers the gradient completely, so the gradient is needed only
+        // where the bar is lit; a translucent one is laid over it.
+        const QRect gradientArea = meet(backgroundColor.alpha() == 255 ? lit : inside, area);
+        if (!gradientArea.isEmpty())
+            canvas.fillGradient(gradientArea);
+        const QRect unlitArea = meet(unlit, area);
+        if (!unlitArea.isEmpty())
+            canvas.fill(unlitArea, backgroundColor);
+        if (peakHoldEnabled) {
+            const QRect line = meet(peakLine(), area);
+            if (!line.isEmpty())
+                canvas.fill(line, zoneColor(peak));
+        }
+        if (clipped) {
+            const QRect cap = meet(clipCap(), area);
+            if (!cap.isEmpty())
+                canvas.fill(cap, clipCapColor);
+        }
+    }
+    if (washedOut)
+        canvas.fill(meet(whole, area), washColor);
+    const auto within = [&area](const QRect &rect) { return !rect.isEmpty() && rect.contains(area); };
+    if (!within(inside))
+        fillOutline(canvas, whole, outlineColor);
+    if (muted && !within(inside.adjusted(1, 1, -1, -1)))
+        fillOutline(canvas, inside, outlineColor);
+}
+
+bool LevelMeterPrivate::isWashedOut() const
+{
+    return muted || !q->isEnabled();
+}
+
+// Whether everything the meter paints is opaque, its wash aside: the gradient, the background and
+// the colour of the peak line.
+bool LevelMeterPrivate::paintsOnlyOpaqueColors() const
+{
+    return !isWashedOut() && gradientOpaque && backgroundColor.alpha() == 255
+        && (!peakHoldEnabled || zoneColor(peak).alpha() == 255);
+}
+
+const GradientPixels &LevelMeterPrivate::gradientPixels(QImage::Format format) const
+{
+    if (gradientCache.format != format) {
+        const int length = gradientAlongHeight ? q->height() : q->width();
+        QImage line(gradientAlongHeight ? QSize(1, length) : QSize(length, 1), format);
+        {
+            QPainter painter(&line);
+            painter.fillRect(line.rect(), gradient);
+        }
+        gradientCache.format = format;
+        gradientCache.alongHeight = gradientAlongHeight;
+        gradientCache.pixels.resize(std::size_t(length));
+        for (int i = 0; i < length; ++i) {
+            const auto *pixel = reinterpret_cast<const QRgb *>(line.constScanLine(gradientAlongHeight ? i : 0));
+            gradientCache.pixels[std::size_t(i)] = pixel[gradientAlongHeight ? 0 : i];
+        }
+    }
+    return gradientCache;
 }
 
 bool ClipTapFilter::eventFilter(QObject *watched, QEvent *event)
@@ -590,9 +823,9 @@ void LevelMeter::resetPeak()
 {
     if (!d->peakHoldEnabled)
         return;
-    const int before = d->litLengthOf(d->peak);
+    const float before = d->peak;
     d->holdPeakAt(d->level, meterClock());
-    d->updatePeakLine(before, d->litLengthOf(d->peak));
+    d->updatePeakLine(before);
 }
 
 bool LevelMeter::isClipLatchEnabled() const
@@ -722,57 +955,26 @@ void LevelMeter::updateGradient()
     addStop(high, d->highColor);
     d->gradient = QBrush(gradient);
     d->gradientOpaque = d->gradient.isOpaque();
+    d->gradientAlongHeight = orientation() == Qt::Vertical;
+    d->gradientCache.format = QImage::Format_Invalid;
     d->updateOpaque();
     update();
 }
 
 void LevelMeter::paintEvent(QPaintEvent *event)
 {
-    QPainter painter(this);
-    // Only what lies in the area to paint is filled: after a level change that is the strip
-    // between the old and the new level.
-    const QRect area = event->rect();
-    const QRect whole = rect();
-    const QRect inner = d->inner();
-    const bool washedOut = d->muted || !isEnabled();
-    const QColor &frameColor = d->muted ? d->mutedFrameColor : d->frameColor;
-    if (!inner.isEmpty()) {
-        const int pixels = d->litLength(value());
-        QRect lit = inner;
-        QRect unlit = inner;
-        if (orientation() == Qt::Vertical) {
-            unlit.setHeight(inner.height() - pixels);
-            lit.setTop(unlit.bottom() + 1);
-        } else {
-            lit.setWidth(pixels);
-            unlit.setLeft(lit.right() + 1);
-        }
-        // An opaque background covers the gradient completely, so the gradient is needed only
-        // where the bar is lit; a translucent one is laid over it.
-        const QRect gradientArea = (d->backgroundColor.alpha() == 255 ? lit : inner) & area;
-        if (!gradientArea.isEmpty())
-            painter.fillRect(gradientArea, d->gradient);
-        const QRect unlitArea = unlit & area;
-        if (!unlitArea.isEmpty())
-            painter.fillRect(unlitArea, d->backgroundColor);
-        if (d->peakHoldEnabled) {
-            const QRect line = d->peakLine() & area;
-            if (!line.isEmpty())
-                painter.fillRect(line, d->zoneColor(d->peak));
-        }
-        if (d->clipped) {
-            const QRect cap = d->clipCap() & area;
-            if (!cap.isEmpty())
-                painter.fillRect(cap, clipCapColor);
-        }
+    // Painted straight into the window's backing store when that is a raster image the meter
+    // can write, and the paint is not shared with another painter (QWidget::render(), grab()).
+    QPoint redirection;
+    QPaintDevice *device = redirected(&redirection);
+    if (sharedPainter() == nullptr && BackingStoreCanvas::canWrite(device) && d->paintsOnlyOpaqueColors()) {
+        auto &image = static_cast<QImage &>(*device);
+        BackingStoreCanvas canvas(image, redirection, event->region(), d->gradientPixels(image.format()));
+        d->paint(canvas, event->rect());
+        return;
     }
-    if (washedOut)
-        painter.fillRect(whole & area, QColor(255, 255, 255, 128));
-    const auto within = [&area](const QRect &rect) { return !rect.isEmpty() && rect.contains(area); };
-    if (!within(inner))
-        fillOutline(painter, whole, frameColor);
-    if (d->muted && !within(inner.adjusted(1, 1, -1, -1)))
-        fillOutline(painter, inner, frameColor);
+    PainterCanvas canvas(this, d->gradient);
+    d->paint(canvas, event->rect());
 }
 
 void LevelMeter::resizeEvent(QResizeEvent * /*event*/)
