@@ -24,9 +24,12 @@ public:
             if (run.run_type != Run::RT_Iteration || run.iterations == 0 || run.error_occurred)
                 continue;
             const double seconds = run.cpu_accumulated_time / double(run.iterations);
-            auto found = m_secondsPerFrame.find(run.benchmark_name());
+            // Repetitions of a benchmark are one entry, whose fastest run counts.
+            benchmark::BenchmarkName name = run.run_name;
+            name.repetitions.clear();
+            auto found = m_secondsPerFrame.find(name.str());
             if (found == m_secondsPerFrame.end())
-                m_secondsPerFrame.emplace(run.benchmark_name(), seconds);
+                m_secondsPerFrame.emplace(name.str(), seconds);
             else
                 found->second = std::min(found->second, seconds);
         }
