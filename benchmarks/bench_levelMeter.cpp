@@ -46,8 +46,8 @@ constexpr int meterHeight = 200;
 constexpr int frameCount = 60;
 constexpr float minimumLevel = -60.0f;
 constexpr float maximumLevel = 15.0f;
-// Each wall runs this many times and its fastest run counts: a frame is a tenth of a millisecond,
-// and one stall of a busy machine would otherwise decide a ratio.
+// Each wall runs this many times, interleaved with the others, and its fastest run counts: a
+// frame is a tenth of a millisecond, and one stall of a busy machine would otherwise decide a ratio.
 constexpr int wallRepetitions = 3;
 
 // A simulated programme: each channel a sine of its own phase and speed over the level range.
@@ -272,5 +272,11 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
 
-    return runBenchmarks(argc, argv, printComparison);
+    // The runs of the walls are interleaved in a random order, so that a stall of the machine
+    // does not fall on every run of one wall; flags given on the command line come after, and win.
+    std::vector<char *> arguments(argv, argv + argc);
+    char interleaved[] = "--benchmark_enable_random_interleaving=true";
+    arguments.insert(arguments.begin() + 1, interleaved);
+    int argumentCount = int(arguments.size());
+    return runBenchmarks(argumentCount, arguments.data(), printComparison);
 }

@@ -11,6 +11,7 @@
 
 #include <QElapsedTimer>
 #include <QImage>
+#include <QVector>
 #include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -21,7 +22,6 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
-#include <vector>
 
 namespace ko::qtToolkit::widget {
 
@@ -54,7 +54,9 @@ struct GradientPixels
 {
     QImage::Format format = QImage::Format_Invalid;
     bool alongHeight = true;
-    std::vector<QRgb> pixels;
+    // A QVector rather than a std::vector: the standard library's templates, instantiated here,
+    // would be exported with the library.
+    QVector<QRgb> pixels;
 };
 
 class LevelMeterPrivate
@@ -230,12 +232,12 @@ public:
 
     void fillGradient(const QRect &rect)
     {
-        const std::vector<QRgb> &pixels = m_gradient.pixels;
+        const QVector<QRgb> &pixels = m_gradient.pixels;
         if (m_gradient.alongHeight) {
             forEachRow(rect, [&pixels](QRgb *row, int y, int, int width) { fillRow(row, width, pixels[y]); });
         } else {
             forEachRow(rect, [&pixels](QRgb *row, int, int x, int width) {
-                std::copy_n(pixels.begin() + x, width, row);
+                std::copy_n(pixels.constBegin() + x, width, row);
             });
         }
     }
@@ -620,10 +622,10 @@ const GradientPixels &LevelMeterPrivate::gradientPixels(QImage::Format format) c
         }
         gradientCache.format = format;
         gradientCache.alongHeight = gradientAlongHeight;
-        gradientCache.pixels.resize(std::size_t(length));
+        gradientCache.pixels.resize(length);
         for (int i = 0; i < length; ++i) {
             const auto *pixel = reinterpret_cast<const QRgb *>(line.constScanLine(gradientAlongHeight ? i : 0));
-            gradientCache.pixels[std::size_t(i)] = pixel[gradientAlongHeight ? 0 : i];
+            gradientCache.pixels[i] = pixel[gradientAlongHeight ? 0 : i];
         }
     }
     return gradientCache;
