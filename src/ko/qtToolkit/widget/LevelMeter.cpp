@@ -124,9 +124,8 @@ public:
     int shownValue;
     // Whether no stop of the gradient is translucent; follows the gradient.
     bool gradientOpaque = false;
-    // Whether the gradient runs along the height; it was built for the orientation of its time.
-    bool gradientAlongHeight = true;
-    // Made on the first paint that needs them; emptied when the gradient is rebuilt.
+    // Made on the first paint that needs them; emptied when the gradient is rebuilt, which also
+    // sets their direction: the gradient was built for the orientation of its time.
     mutable GradientPixels gradientCache;
 };
 
@@ -614,6 +613,7 @@ bool LevelMeterPrivate::paintsOnlyOpaqueColors() const
 const GradientPixels &LevelMeterPrivate::gradientPixels(QImage::Format format) const
 {
     if (gradientCache.format != format) {
+        const bool gradientAlongHeight = gradientCache.alongHeight;
         const int length = gradientAlongHeight ? q->height() : q->width();
         QImage line(gradientAlongHeight ? QSize(1, length) : QSize(length, 1), format);
         {
@@ -621,7 +621,6 @@ const GradientPixels &LevelMeterPrivate::gradientPixels(QImage::Format format) c
             painter.fillRect(line.rect(), gradient);
         }
         gradientCache.format = format;
-        gradientCache.alongHeight = gradientAlongHeight;
         gradientCache.pixels.resize(length);
         for (int i = 0; i < length; ++i) {
             const auto *pixel = reinterpret_cast<const QRgb *>(line.constScanLine(gradientAlongHeight ? i : 0));
@@ -957,7 +956,7 @@ void LevelMeter::updateGradient()
     addStop(high, d->highColor);
     d->gradient = QBrush(gradient);
     d->gradientOpaque = d->gradient.isOpaque();
-    d->gradientAlongHeight = orientation() == Qt::Vertical;
+    d->gradientCache.alongHeight = orientation() == Qt::Vertical;
     d->gradientCache.format = QImage::Format_Invalid;
     d->updateOpaque();
     update();
